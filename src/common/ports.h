@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace valmerix {
+
+enum class IconoMensaje { Ninguno, Informacion, Pregunta, Aviso, Critico };
+
+/// Boxes that stop the program until she answers.
+class Dialogos
+{
+public:
+    virtual ~Dialogos() = default;
+    virtual void Mensaje(const QString& texto, const QString& titulo, IconoMensaje icono) = 0;
+    /// Yes or no; closing the box is no.
+    virtual bool Preguntar(const QString& texto, const QString& titulo, IconoMensaje icono) = 0;
+    /// The standard error report: "Continuar" (true, the default) or "Cerrar Valmerix" (false).
+    virtual bool InformarFallo(const QString& texto, const QString& detalle) = 0;
+    /// The calendar, opened on `fecha`; nothing when she leaves it without choosing.
+    virtual std::optional<QDate> MostrarCalendario(QDate fecha) = 0;
+};
+
+class Reloj
+{
+public:
+    virtual ~Reloj() = default;
+    virtual QDate hoy() const = 0;
+};
+
+/// The machine outside the program.
+class Sistema
+{
+public:
+    virtual ~Sistema() = default;
+    /// Absolute, without a separator at its end.
+    virtual QString carpetaPrograma() const = 0;
+    /// True when another instance already runs for this program folder.
+    virtual bool otraInstancia() = 0;
+    /// Starts `orden` with `argumentos` in `carpeta`; false when it could not be started.
+    virtual bool Arrancar(const QString& orden, const QStringList& argumentos, const QString& carpeta) = 0;
+    virtual void Pitar() = 0;
+    virtual void PunteroOcupado(bool ocupado) = 0;
+    /// Lets pending window messages run.
+    virtual void DejarPintar() = 0;
+    virtual void CopiarAlPortapapeles(const QString& texto) = 0;
+    /// Ends the process. In the running program it does not return to ordinary work.
+    virtual void TerminarProceso(int codigo) = 0;
+};
+
+} // namespace valmerix
