@@ -1,0 +1,104 @@
+#include "controls/control.h"
+
+namespace valmerix {
+
+Control::Control(const QString& nombre)
+    : nombre_(nombre)
+{
+    setObjectName(nombre);
+}
+
+void Control::setCaption(const QString& texto)
+{
+    if (caption_ == texto)
+        return;
+    caption_ = texto;
+    Q_EMIT PresentacionCambiada();
+}
+
+void Control::setEnabled(bool valor)
+{
+    if (enabled_ == valor)
+        return;
+    enabled_ = valor;
+    Q_EMIT PresentacionCambiada();
+}
+
+void Control::setVisible(bool valor)
+{
+    if (visible_ == valor)
+        return;
+    visible_ = valor;
+    Q_EMIT PresentacionCambiada();
+}
+
+void Control::setToolTip(const QString& texto)
+{
+    if (ayuda_ == texto)
+        return;
+    ayuda_ = texto;
+    Q_EMIT PresentacionCambiada();
+}
+
+void Control::setAspecto(Aspecto valor)
+{
+    if (aspecto_ == valor)
+        return;
+    aspecto_ = valor;
+    Q_EMIT PresentacionCambiada();
+}
+
+void Boton::Pulsar()
+{
+    if (Enabled())
+        Q_EMIT Click();
+}
+
+void Casilla::setValue(int valor)
+{
+    const int nuevo = valor != 0 ? 1 : 0;
+    if (nuevo == valor_)
+        return;
+    valor_ = nuevo;
+    Q_EMIT PresentacionCambiada();
+    Q_EMIT Click();
+}
+
+void Casilla::Pulsar()
+{
+    if (Enabled())
+        setValue(1 - valor_);
+}
+
+void Temporizador::Tic()
+{
+    if (Enabled())
+        Q_EMIT Timer();
+}
+
+void Imagen::setPicture(const QString& ruta)
+{
+    if (ruta_ == ruta)
+        return;
+    ruta_ = ruta;
+    Q_EMIT PresentacionCambiada();
+}
+
+void BarraProgreso::setValue(double porcentaje)
+{
+    if (valor_ == porcentaje)
+        return;
+    valor_ = porcentaje;
+    Q_EMIT PresentacionCambiada();
+}
+
+void Solapas::setTab(int pagina)
+{
+    if (pagina == tab_ || pagina < 0 || pagina >= paginas_)
+        return;
+    tab_ = pagina;
+    Q_EMIT PresentacionCambiada();
+    Q_EMIT Click();
+}
+
+} // namespace valmerix

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "controls/control.h"
+
+#include <vector>
+
+namespace valmerix {
+
+struct NodoArbol
+{
+    QString clave;
+    QString texto;
+};
+
+/// A folder of the tree with its leaves.
+struct CarpetaArbol
+{
+    QString clave;
+    QString texto;
+    std::vector<NodoArbol> hijos;
+};
+
+/// A tree of two levels: folders and leaves, each with a key. Built for hundreds of thousands of leaves.
+class Arbol : public Control
+{
+    Q_OBJECT
+
+public:
+    using Control::Control;
+
+    const std::vector<CarpetaArbol>& carpetas() const { return carpetas_; }
+
+    /// Replaces the whole tree at once and clears the selection.
+    void setCarpetas(std::vector<CarpetaArbol> carpetas);
+
+    /// Key of the selected node, empty when none is.
+    const QString& seleccion() const { return seleccion_; }
+    void Seleccionar(const QString& clave) { seleccion_ = clave; }
+    void DoblePulsar(const QString& clave);
+
+Q_SIGNALS:
+    void DblClick();
+    void ContenidoCambiado();
+
+private:
+    std::vector<CarpetaArbol> carpetas_;
+    QString seleccion_;
+};
+
+} // namespace valmerix

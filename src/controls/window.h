@@ -1,0 +1,142 @@
+#pragma once
+
+#include "controls/control.h"
+#include "controls/grid.h"
+#include "controls/option_group.h"
+#include "controls/rich_text.h"
+#include "controls/text_field.h"
+#include "controls/tree.h"
+
+#include <QRect>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace valmerix {
+
+enum class EstadoVentana { Normal, Minimizada, Maximizada };
+
+/// A window: an ordered set of controls found by name, a caption, a place, a state, the focus. It has no
+/// screen of its own; whoever shows it (see Pantalla) listens to its signals.
+class Ventana : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Ventana(const QString& nombre, const QString& caption = {});
+    ~Ventana() override;
+
+    const QString& nombre() const { return nombre_; }
+    const QString& Caption() const { return caption_; }
+    void setCaption(const QString& texto);
+
+    /// Adds a control behind the others. Names are unique in a window.
+    template <class T>
+    T& Añadir(const QString& nombre)
+    {
+        auto nuevo = std::make_unique<T>(nombre);
+        T& control = *nuevo;
+        Registrar(std::move(nuevo));
+        return control;
+    }
+
+    /// The control of that name, null when there is none.
+    Control* buscar(QStringView nombre) const;
+    /// The control of that name. Throws std::out_of_range, naming it, when there is none.
+    Control& control(QStringView nombre) const;
+    /// The same, as the kind that the caller expects. Throws std::bad_cast when it is of another kind.
+    template <class T>
+    T& como(QStringView nombre) const
+    {
+        return dynamic_cast<T&>(control(nombre));
+    }
+
+    CampoTexto& campo(QStringView nombre) const { return como<CampoTexto>(nombre); }
+    Lista& lista(QStringView nombre) const { return como<Lista>(nombre); }
+    Casilla& casilla(QStringView nombre) const { return como<Casilla>(nombre); }
+    GrupoOpciones& opciones(QStringView nombre) const { return como<GrupoOpciones>(nombre); }
+    Boton& boton(QStringView nombre) const { return como<Boton>(nombre); }
+    Rejilla& rejilla(QStringView nombre) const { return como<Rejilla>(nombre); }
+    /// Text of a field or list.
+    const QString& texto(QStringView nombre) const { return campo(nombre).Text(); }
+    /// Whether a check box is ticked.
+    bool marcada(QStringView nombre) const { return casilla(nombre).Value() == 1; }
+
+    /// In the order in which they were added, which is the tab order.
+    const std::vector<std::unique_ptr<Control>>& controles() const { return controles_; }
+
+    Control* conFoco() const { return foco_; }
+    /// Moves the focus: LostFocus of the old control, then GotFocus of the new one. Null takes it away.
+    void Enfocar(Control* control);
+    void Enfocar(QStringView nombre) { Enfocar(&control(nombre)); }
+
+    bool visible() const { return visible_; }
+    void setVisible(bool valor);
+    EstadoVentana WindowState() const { return estado_; }
+    /// Raises Resize when the state differs.
+    void setWindowState(EstadoVentana estado);
+    QRect lugar() const { return lugar_; }
+    void Mover(const QRect& lugar);
+    /// The window system's news of a place or state, or of the window having come to the front or left it.
+    void Activar() { Q_EMIT Activate(); }
+    void Desactivar() { Q_EMIT Deactivate(); }
+    /// A key that no control takes, such as Escape.
+    void PulsarTecla(int tecla) { Q_EMIT KeyDown(tecla); }
+
+    bool abierta() const { return abierta_; }
+    /// Asks PuedeCerrar, runs AlCerrar, raises Cerrada. False when the window stays open.
+    bool Cerrar();
+
+    /// Fills with "name(i)": how a member of a control array is called.
+    static QString Indice(QStringView nombre, int i);
+
+Q_SIGNALS:
+    void PresentacionCambiada(); ///< caption, visibility or place
+    void FocoCambiado();
+    void Resize();
+    void Activate();
+    void Deactivate();
+    void KeyDown(int tecla);
+    void Cerrada();
+
+protected:
+    /// A window may refuse to close.
+    virtual bool PuedeCerrar() { return true; }
+    /// What the window does at its end.
+    virtual void AlCerrar() {}
+
+private:
+    void Registrar(std::unique_ptr<Control> control);
+
+    struct Picadillo
+    {
+        size_t operator()(QStringView s) const noexcept { return qHash(s); }
+    };
+
+    QString nombre_;
+    QString caption_;
+    std::vector<std::unique_ptr<Control>> controles_;
+    std::unordered_map<QStringView, Control*, Picadillo> porNombre_; // views of the controls' own names
+    Control* foco_ = nullptr;
+    EstadoVentana estado_ = EstadoVentana::Normal;
+    QRect lugar_;
+    bool visible_ = false;
+    bool abierta_ = true;
+};
+
+/// Whoever puts windows before her eyes.
+class Pantalla
+{
+public:
+    virtual ~Pantalla() = default;
+    virtual void Mostrar(Ventana& ventana) = 0;
+    /// Returns once the window has been closed.
+    virtual void MostrarModal(Ventana& ventana) = 0;
+    /// Whole usable area, pixels.
+    virtual QRect area() const = 0;
+};
+
+/// Centres a window in the usable area.
+void Centrar(Ventana& ventana, const Pantalla& pantalla);
+
+} // namespace valmerix
