@@ -12,7 +12,7 @@ namespace valmerix {
 namespace {
 
 constexpr qsizetype kLargoValor = 255;
-constexpr qint64 kLargoLinea = 16 * 1024;
+constexpr qint64 kLargoLinea = 16384;
 
 /// The lines of a file, one after the other; of a line too long to be one of ours only the beginning.
 class LectorLineas
@@ -43,12 +43,14 @@ public:
     }
 
 private:
-    // Non-ASCII bytes at the cut may be a character without its end, which would not pass for UTF-8.
+    // A character without its end at the cut would not pass for UTF-8.
     static QByteArrayView SinCaracterPartido(QByteArrayView linea)
     {
-        for (int i = 0; i < 3 && !linea.isEmpty() && static_cast<uchar>(linea.back()) >= 0x80; ++i) {
+        const auto ultimo = [&linea] { return linea.isEmpty() ? 0 : static_cast<uchar>(linea.back()); };
+        for (int i = 0; i < 3 && ultimo() >= 0x80 && ultimo() < 0xC0; ++i) {
             linea.chop(1);
         }
+        linea.chop(ultimo() >= 0xC0 ? 1 : 0);
         return linea;
     }
 
