@@ -23,12 +23,14 @@ int LeerEntero(QStringView texto);
 bool EsNumero(QStringView texto);
 
 /// What a field shows of a stored number: empty for 0 or an empty text, otherwise the value with
-/// grouping dots and `decimales` decimals (0 or more).
+/// grouping dots and `decimales` decimals (0 or more). Throws ErrorDesbordamiento for a number beyond a
+/// double.
 QString NumeroVisible(double valor, int decimales);
 QString NumeroVisible(QStringView texto, int decimales);
 
 /// The literal for SQL of a number typed on screen: decimal point, exactly `decimales` (0 to 4) decimals,
 /// rounded half away from zero. An empty text gives `defecto` unchanged.
+/// Throws ErrorDesbordamiento for a number beyond a double.
 QString NumeroSQL(QStringView texto, QStringView defecto, int decimales);
 
 } // namespace valmerix
