@@ -1,0 +1,73 @@
+# The stages of scripts/test.sh, which sources this file. Each runs its checks through `check` and `run_ctest`.
+log=$PWD/build/log
+mkdir -p "$log"
+passed=0 failed=0 failures=()
+
+export QT_QPA_PLATFORM=offscreen
+unset DISPLAY WAYLAND_DISPLAY
+command -v ccache >/dev/null && export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+command -v ld.lld >/dev/null && export LDFLAGS=-fuse-ld=lld
+export UBSAN_OPTIONS=print_stacktrace=1
+export LSAN_OPTIONS=suppressions=$PWD/tests/lsan.supp:print_suppressions=0
+jobs=$(nproc)
+
+# check NAME COMMAND...: one check; its output goes to a log, of which a failure shows the end
+check() {
+    local name=$1 file
+    shift
+    file=$log/${name//[ \/]/_}.txt
+    if "$@" >"$file" 2>&1; then
+        passed=$((passed + 1))
+        echo "ok      $name"
+        return 0
+    fi
+    failed=$((failed + 1))
+    failures+=("$name (see ${file#"$PWD"/})")
+    echo "FAILED  $name"
+    tail -n 60 "$file"
+    return 1
+}
+
+# configure and build a preset; not counted when it works, one failure when it does not
+build() {
+    local preset=$1
+    shift
+    local before=$passed
+    check "build $preset" bash -c 'cmake --preset "$1" && cmake --build --preset "$1" "${@:2}"' - "$preset" "$@" || return 1
+    passed=$before
+}
+
+# run_ctest NAME PRESET OPTION...: counts what ctest counted
+run_ctest() {
+    local name=$1 preset=$2 file total bad
+    shift 2
+    file=$log/${name//[ \/]/_}.txt
+    ctest --test-dir "build/$preset" -j "$jobs" --timeout 300 --output-on-failure --no-tests=error "$@" >"$file" 2>&1
+    read -r bad total < <(sed -nE 's/.*tests passed, ([0-9]+) tests? failed out of ([0-9]+).*/\1 \2/p' "$file")
+    if [ -z "${total:-}" ]; then
+        bad=1 total=1
+        tail -n 40 "$file"
+    fi
+    passed=$((passed + total - bad)) failed=$((failed + bad))
+    echo "$name: $((total - bad)) passed, $bad failed"
+    if [ "$bad" -gt 0 ]; then
+        failures+=("$bad of $name (see ${file#"$PWD"/})")
+        grep -vE '(Passed +[0-9.]+ sec$)|(^ +Start +[0-9]+:)' "$file" | tail -n 120
+    fi
+}
+
+stage_layers() { check "layers" scripts/check_layers.sh; }
+
+stage_format() {
+    check "format" bash -c 'git ls-files -z "*.cpp" "*.h" | xargs -0 clang-format --dry-run -Werror'
+}
+
+stage_dev() { build dev && LC_ALL=C.UTF-8 run_ctest "tests" dev; }
+
+# the same tests under the sanitizers, in the other locale that every machine has
+stage_asan() { build asan && LC_ALL=C run_ctest "tests under sanitizers" asan -E '^tools\.'; }
+
+stage_tidy() {
+    build dev || return
+    check "clang-tidy" run-clang-tidy -quiet -p build/dev -j "$jobs" "$PWD/src/.*\.cpp$"
+}
