@@ -1,0 +1,26 @@
+#pragma once
+
+#include "common/ports.h"
+#include "controls/window.h"
+
+#include <span>
+
+namespace valmerix {
+
+/// Pass backspace and digits, and FiltroDecimal both "." and "," as ",". Any other key becomes 0 with a beep.
+void FiltroEntero(int& TeclaPulsada, Sistema& sistema);
+void FiltroDecimal(int& TeclaPulsada, Sistema& sistema);
+
+struct ReglaTecla
+{
+    QStringView campo;
+    void (*filtro)(int&, Sistema&) = nullptr;
+};
+
+/// The fields that take digits only.
+std::span<const ReglaTecla> ReglasTecla();
+
+/// Puts the filters on those of the fields that the window has. `sistema` outlives the window.
+void ConectarFiltros(Ventana& ventana, Sistema& sistema);
+
+} // namespace valmerix
