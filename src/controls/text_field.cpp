@@ -7,6 +7,7 @@ namespace valmerix {
 namespace {
 
 constexpr int kRetroceso = 8;
+constexpr int kPrimeraVisible = 32;
 constexpr char16_t kApostrofoTipografico = u'\u2019';
 
 } // namespace
@@ -34,6 +35,9 @@ void CampoTexto::CambiarTexto(const QString& texto)
 void CampoTexto::Asignar(const QString& texto)
 {
     texto_ = texto;
+    const int total = static_cast<int>(texto_.size());
+    selInicio_ = std::min(selInicio_, total);
+    selLongitud_ = std::min(selLongitud_, total - selInicio_);
 }
 
 void CampoTexto::setMaxLength(int longitud)
@@ -97,11 +101,20 @@ void CampoTexto::PulsarTecla(int tecla)
 {
     if (bloqueado_ || !Enabled())
         return;
-    tecla = FiltrarTecla(tecla);
-    if (tecla == 0)
+    const bool finDeLinea = tecla == u'\n' || tecla == u'\r';
+    if (tecla < kPrimeraVisible && tecla != kRetroceso && !(finDeLinea && variasLineas_))
         return;
-    if (tecla != kRetroceso) {
-        Pegar(QString(QChar(static_cast<char16_t>(tecla))));
+    tecla = FiltrarTecla(finDeLinea ? u'\n' : tecla);
+    if (tecla == kRetroceso)
+        Retroceder();
+    else if (tecla != 0)
+        Insertar(QString(QChar(static_cast<char16_t>(tecla))));
+}
+
+void CampoTexto::Retroceder()
+{
+    if (!mascara_.isEmpty()) {
+        BorrarEnMascara();
         return;
     }
     if (selLongitud_ == 0) {
@@ -121,13 +134,80 @@ void CampoTexto::Teclear(const QString& texto)
 
 void CampoTexto::Pegar(const QString& texto)
 {
-    if (bloqueado_ || !Enabled())
+    if (!bloqueado_ && Enabled())
+        Insertar(FiltrarTexto(texto));
+}
+
+void CampoTexto::Insertar(QString texto)
+{
+    if (!mascara_.isEmpty()) {
+        RellenarMascara(texto);
         return;
-    QString nuevo = FiltrarTexto(texto);
+    }
     if (longitud_ > 0)
-        nuevo.truncate(std::max<qsizetype>(0, longitud_ - (texto_.size() - selLongitud_)));
-    if (!nuevo.isEmpty())
-        SustituirSeleccion(nuevo);
+        texto.truncate(std::max<qsizetype>(0, longitud_ - (texto_.size() - selLongitud_)));
+    if (!texto.isEmpty())
+        SustituirSeleccion(texto);
+}
+
+// The text in the mask's form, the selected digits blank.
+QString CampoTexto::TextoEnMascara() const
+{
+    QString texto = texto_.size() == mascara_.size() ? texto_ : mascaraVacia();
+    for (int i = selInicio_; i < selInicio_ + selLongitud_ && i < texto.size(); ++i) {
+        if (mascara_.at(i) == u'9')
+            texto[i] = u' ';
+    }
+    return texto;
+}
+
+void CampoTexto::RellenarMascara(const QString& tecleado)
+{
+    QString texto = TextoEnMascara();
+    const auto total = static_cast<int>(mascara_.size());
+    int cursor = selInicio_;
+    for (const QChar c : tecleado) {
+        if (c.isDigit()) {
+            cursor = SiguienteHueco(cursor);
+            if (cursor < total)
+                texto[cursor++] = c;
+        } else if (cursor == 0 || mascara_.at(cursor - 1) != c) {
+            cursor = DetrasDelLiteral(c, cursor);
+        }
+    }
+    selInicio_ = SiguienteHueco(cursor);
+    selLongitud_ = 0;
+    if (texto != texto_)
+        CambiarTexto(texto);
+}
+
+int CampoTexto::DetrasDelLiteral(QChar literal, int cursor) const
+{
+    const auto hallado = static_cast<int>(mascara_.indexOf(literal, cursor));
+    return hallado < 0 ? cursor : hallado + 1;
+}
+
+int CampoTexto::SiguienteHueco(int cursor) const
+{
+    while (cursor < mascara_.size() && mascara_.at(cursor) != u'9')
+        ++cursor;
+    return cursor;
+}
+
+void CampoTexto::BorrarEnMascara()
+{
+    QString texto = TextoEnMascara();
+    if (selLongitud_ == 0) {
+        const auto hueco =
+            selInicio_ == 0 ? -1 : static_cast<int>(mascara_.lastIndexOf(u'9', selInicio_ - 1));
+        if (hueco < 0)
+            return;
+        texto[hueco] = u' ';
+        selInicio_ = hueco;
+    }
+    selLongitud_ = 0;
+    if (texto != texto_)
+        CambiarTexto(texto);
 }
 
 void CampoTexto::SustituirSeleccion(const QString& texto)
@@ -185,7 +265,8 @@ void Lista::setText(const QString& texto)
     if (texto == Text())
         return;
     const bool enLista = elementos_.contains(texto);
-    CambiarTexto(enLista ? texto : QString());
+    if (enLista || !Text().isEmpty())
+        CambiarTexto(enLista ? texto : QString());
     if (enLista)
         Q_EMIT Click();
 }

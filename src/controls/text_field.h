@@ -42,8 +42,9 @@ public:
     /// What the filters leave of a pasted text, character by character.
     QString FiltrarTexto(const QString& texto);
 
-    /// One key of the user: 8 deletes, any other character replaces the selection. Nothing while locked or
-    /// disabled, or when the filters swallow the key or the length is reached.
+    /// One key of the user: 8 deletes, any other character replaces the selection; in a masked field digits
+    /// fill the blanks one by one. Nothing while locked or disabled, or when the filters swallow the key or
+    /// the length is reached. Control keys write nothing, but for Return in a field of several lines.
     void PulsarTecla(int tecla);
     void Teclear(const QString& texto);
     /// A paste: filtered, cut to the length that is left, put in place of the selection.
@@ -64,6 +65,13 @@ protected:
 
 private:
     void SustituirSeleccion(const QString& texto);
+    void Insertar(QString texto);
+    void Retroceder();
+    QString TextoEnMascara() const;
+    void RellenarMascara(const QString& tecleado);
+    void BorrarEnMascara();
+    int DetrasDelLiteral(QChar literal, int cursor) const;
+    int SiguienteHueco(int cursor) const;
 
     QString texto_;
     QString mascara_;
@@ -96,8 +104,8 @@ public:
     /// Index of the item that equals the text, -1 when none does.
     int ListIndex() const { return static_cast<int>(elementos_.indexOf(Text())); }
 
-    /// Open list: as in a field. Closed list: an item of the list raises Click when it differs; any other
-    /// text empties the field without an event.
+    /// Open list: as in a field. Closed list: an item of the list raises Change and Click when it differs;
+    /// any other text empties the field without a Click.
     void setText(const QString& texto) override;
 
     /// The user's choice from the list: the text becomes the item and Click is raised, also for the item

@@ -1,5 +1,6 @@
 #include "controls/window.h"
 
+#include <QScopedValueRollback>
 #include <stdexcept>
 
 namespace valmerix {
@@ -45,7 +46,8 @@ Control& Ventana::control(QStringView nombre) const
 
 void Ventana::Enfocar(Control* control)
 {
-    if (control == foco_)
+    const bool admite = !control || (control->aceptaFoco() && control->Enabled() && control->Visible());
+    if (control == foco_ || !admite)
         return;
     Control* anterior = foco_;
     foco_ = control;
@@ -87,10 +89,12 @@ bool Ventana::Cerrar()
 {
     if (!abierta_)
         return true;
-    if (!PuedeCerrar())
+    if (cerrando_ || !PuedeCerrar())
         return false;
-    abierta_ = false;
+    // A failure at the end leaves the window open, with all that was typed.
+    const QScopedValueRollback<bool> enCurso(cerrando_, true);
     AlCerrar();
+    abierta_ = false;
     visible_ = false;
     Q_EMIT Cerrada();
     return true;

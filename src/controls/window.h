@@ -66,7 +66,8 @@ public:
     const std::vector<std::unique_ptr<Control>>& controles() const { return controles_; }
 
     Control* conFoco() const { return foco_; }
-    /// Moves the focus: LostFocus of the old control, then GotFocus of the new one. Null takes it away.
+    /// Moves the focus: LostFocus of the old control, then GotFocus of the new one. Null takes it away. A
+    /// control that cannot take it (a label, one disabled or hidden) leaves it where it is.
     void Enfocar(Control* control);
     void Enfocar(QStringView nombre) { Enfocar(&control(nombre)); }
 
@@ -84,7 +85,8 @@ public:
     void PulsarTecla(int tecla) { Q_EMIT KeyDown(tecla); }
 
     bool abierta() const { return abierta_; }
-    /// Asks PuedeCerrar, runs AlCerrar, raises Cerrada. False when the window stays open.
+    /// Asks PuedeCerrar, runs AlCerrar, raises Cerrada. False when the window stays open. What AlCerrar
+    /// throws passes, and the window stays open too.
     bool Cerrar();
 
     /// Fills with "name(i)": how a member of a control array is called.
@@ -122,6 +124,7 @@ private:
     QRect lugar_;
     bool visible_ = false;
     bool abierta_ = true;
+    bool cerrando_ = false;
 };
 
 /// Whoever puts windows before her eyes.
