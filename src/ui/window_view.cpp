@@ -1,0 +1,188 @@
+#include "ui/window_view.h"
+
+#include "ui/application.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QWindow>
+
+namespace valmerix {
+
+namespace {
+
+Qt::WindowFlags Banderas(Marco marco)
+{
+    switch (marco) {
+    case Marco::Propio:
+        return Qt::Window | Qt::FramelessWindowHint;
+    case Marco::Herramienta:
+        return Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
+    case Marco::Sistema:
+        break;
+    }
+    return Qt::Window;
+}
+
+} // namespace
+
+VistaVentana::VistaVentana(Ventana& ventana, Marco marco)
+    : QWidget(nullptr, Banderas(marco))
+    , ventana_(&ventana)
+    , enlazador_(new Enlazador(ventana, this))
+{
+    setObjectName(ventana.nombre());
+    if (marco == Marco::Herramienta)
+        setAttribute(Qt::WA_ShowWithoutActivating);
+    connect(&ventana, &Ventana::PresentacionCambiada, this, &VistaVentana::Mostrar);
+    connect(&ventana, &Ventana::Resize, this, &VistaVentana::MostrarEstado);
+    // A procedure that activates a window wants it before her eyes; our own news need nothing.
+    connect(&ventana, &Ventana::Activate, this, [this] {
+        if (!isVisible() || isActiveWindow())
+            return;
+        raise();
+        activateWindow();
+    });
+}
+
+VistaVentana::~VistaVentana()
+{
+    Soltar();
+}
+
+void VistaVentana::Soltar()
+{
+    if (ventana_)
+        ventana_->disconnect(this);
+    ventana_ = nullptr;
+    delete std::exchange(enlazador_, nullptr);
+}
+
+void VistaVentana::Mostrar()
+{
+    if (!ventana_ || sincronizando_)
+        return;
+    setWindowTitle(ventana_->Caption());
+    MostrarLugar();
+    if (ventana_->visible() == isVisible())
+        return;
+    setVisible(ventana_->visible());
+    if (isVisible())
+        TomarLugar();
+}
+
+void VistaVentana::PonerDelanteDe(QWidget& otra)
+{
+    winId(); // makes the native window that the other one is to carry
+    otra.window()->winId();
+    windowHandle()->setTransientParent(otra.window()->windowHandle());
+}
+
+QRect VistaVentana::LugarPosible(QRect pedido) const
+{
+    const QSize propio = pedido.isEmpty() ? sizeHint() : pedido.size().expandedTo(minimumSizeHint());
+    const QPoint centro = pedido.center();
+    const bool crece = !pedido.isEmpty() && propio != pedido.size();
+    pedido.setSize(propio.boundedTo(screen()->availableSize()));
+    if (crece) // a window that was placed for a smaller size keeps its centre
+        pedido.moveCenter(centro);
+    return pedido;
+}
+
+void VistaVentana::MostrarLugar()
+{
+    const QScopedValueRollback guarda(sincronizando_, true);
+    const QRect pedido = ventana_->lugar();
+    const QRect posible = LugarPosible(pedido);
+    if (size() != posible.size())
+        resize(posible.size());
+    if (!pedido.isNull() && pos() != posible.topLeft())
+        move(posible.topLeft());
+}
+
+void VistaVentana::MostrarEstado()
+{
+    if (!ventana_ || sincronizando_)
+        return;
+    const QScopedValueRollback guarda(sincronizando_, true);
+    const Qt::WindowStates otros = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+    switch (ventana_->WindowState()) {
+    case EstadoVentana::Normal:
+        setWindowState(otros);
+        break;
+    case EstadoVentana::Minimizada:
+        setWindowState(windowState() | Qt::WindowMinimized);
+        break;
+    case EstadoVentana::Maximizada:
+        setWindowState(otros | Qt::WindowMaximized);
+        break;
+    }
+}
+
+void VistaVentana::TomarLugar()
+{
+    if (!ventana_ || sincronizando_ || !isVisible() || isMinimized())
+        return;
+    const QScopedValueRollback guarda(sincronizando_, true);
+    Protegido([this] { ventana_->Mover(QRect(pos(), size())); });
+}
+
+void VistaVentana::TomarEstado()
+{
+    if (!ventana_ || sincronizando_)
+        return;
+    const QScopedValueRollback guarda(sincronizando_, true);
+    const auto estado = isMinimized()   ? EstadoVentana::Minimizada
+                        : isMaximized() ? EstadoVentana::Maximizada
+                                        : EstadoVentana::Normal;
+    Protegido([&] { ventana_->setWindowState(estado); });
+}
+
+bool VistaVentana::event(QEvent* evento)
+{
+    if (ventana_ && ventana_->abierta()) {
+        if (evento->type() == QEvent::WindowActivate)
+            Protegido([this] { ventana_->Activar(); });
+        else if (evento->type() == QEvent::WindowDeactivate)
+            Protegido([this] { ventana_->Desactivar(); });
+    }
+    return QWidget::event(evento);
+}
+
+void VistaVentana::closeEvent(QCloseEvent* evento)
+{
+    bool cerrada = true;
+    if (ventana_ && ventana_->abierta())
+        Protegido([&] { cerrada = ventana_->Cerrar(); });
+    evento->setAccepted(cerrada);
+}
+
+void VistaVentana::keyPressEvent(QKeyEvent* evento)
+{
+    if (!ventana_)
+        return QWidget::keyPressEvent(evento);
+    Protegido([&] { ventana_->PulsarTecla(evento->key()); });
+    evento->accept();
+}
+
+void VistaVentana::moveEvent(QMoveEvent* evento)
+{
+    QWidget::moveEvent(evento);
+    TomarLugar();
+}
+
+void VistaVentana::resizeEvent(QResizeEvent* evento)
+{
+    QWidget::resizeEvent(evento);
+    TomarLugar();
+}
+
+void VistaVentana::changeEvent(QEvent* evento)
+{
+    QWidget::changeEvent(evento);
+    if (evento->type() == QEvent::WindowStateChange)
+        TomarEstado();
+}
+
+} // namespace valmerix

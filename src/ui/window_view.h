@@ -1,0 +1,58 @@
+#pragma once
+
+#include "ui/binder.h"
+
+#include <QWidget>
+
+namespace valmerix {
+
+/// What stands around a window.
+enum class Marco {
+    Sistema,     ///< the desktop's own title bar
+    Propio,      ///< none: the view has a caption bar of ours
+    Herramienta, ///< none either, small, beside another window, never taking the focus
+};
+
+/// The view of a window: lays out its widgets, and carries place, state, activation, closing and loose keys
+/// between the window system and the model. A view that outlives its model is an empty shell.
+class VistaVentana : public QWidget
+{
+    Q_OBJECT
+
+public:
+    VistaVentana(Ventana& ventana, Marco marco);
+    ~VistaVentana() override;
+
+    Ventana* ventana() const { return ventana_; }
+    Enlazador& enlazador() { return *enlazador_; }
+
+    /// Ends the tie with the model; the widgets stay until they are deleted, doing nothing.
+    void Soltar();
+    /// Takes place, caption and visibility from the model.
+    void Mostrar();
+    /// Keeps this window above another one, which it stops while it is modal.
+    void PonerDelanteDe(QWidget& otra);
+
+protected:
+    bool event(QEvent* evento) override;
+    void closeEvent(QCloseEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+    void moveEvent(QMoveEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+
+    /// What `lugar()` of the model asks for, made possible on this screen.
+    virtual QRect LugarPosible(QRect pedido) const;
+
+private:
+    void MostrarLugar();
+    void MostrarEstado();
+    void TomarLugar();
+    void TomarEstado();
+
+    QPointer<Ventana> ventana_;
+    Enlazador* enlazador_;
+    bool sincronizando_ = false;
+};
+
+} // namespace valmerix
