@@ -1,0 +1,77 @@
+#include "ui/desktop.h"
+
+#include "ui/views.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QScreen>
+
+namespace valmerix {
+
+PantallaQt::PantallaQt() = default;
+PantallaQt::~PantallaQt() = default;
+
+void PantallaQt::Borrador::operator()(VistaVentana* vista) const
+{
+    vista->Soltar();
+    vista->hide();
+    // A window often closes in the middle of a click on one of its own buttons.
+    vista->deleteLater();
+}
+
+VistaVentana* PantallaQt::vista(const Ventana& ventana) const
+{
+    const auto hallada = vistas_.find(&ventana);
+    return hallada == vistas_.end() ? nullptr : hallada->second.get();
+}
+
+VistaVentana& PantallaQt::VistaDe(Ventana& ventana)
+{
+    if (VistaVentana* hecha = vista(ventana))
+        return *hecha;
+    std::unique_ptr<VistaVentana, Borrador> nueva(CrearVista(ventana).release());
+    connect(&ventana, &Ventana::Cerrada, this, [this, &ventana] { Retirar(&ventana); });
+    connect(&ventana, &QObject::destroyed, this, [this](QObject* muerta) { Retirar(muerta); });
+    return *vistas_.emplace(&ventana, std::move(nueva)).first->second;
+}
+
+void PantallaQt::Retirar(const QObject* ventana)
+{
+    // Out of the map first: deleting a view may run events that ask for it.
+    vistas_.extract(ventana);
+}
+
+void PantallaQt::Mostrar(Ventana& ventana)
+{
+    VistaVentana& nueva = VistaDe(ventana);
+    if (nueva.isVisible())
+        return;
+    ventana.setVisible(true);
+    nueva.Mostrar();
+}
+
+void PantallaQt::MostrarModal(Ventana& ventana)
+{
+    VistaVentana& nueva = VistaDe(ventana);
+    QEventLoop espera;
+    connect(&ventana, &Ventana::Cerrada, &espera, &QEventLoop::quit);
+    connect(&ventana, &QObject::destroyed, &espera, &QEventLoop::quit);
+    connect(&ventana, &Ventana::PresentacionCambiada, &espera, [&] {
+        if (!ventana.visible())
+            espera.quit();
+    });
+    if (QWidget* delante = QApplication::activeWindow(); delante && delante != &nueva)
+        nueva.PonerDelanteDe(*delante);
+    nueva.setWindowModality(Qt::ApplicationModal);
+    ventana.setVisible(true);
+    nueva.Mostrar();
+    if (ventana.abierta() && ventana.visible())
+        espera.exec();
+}
+
+QRect PantallaQt::area() const
+{
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
+} // namespace valmerix

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ui/window_view.h"
+
+#include <memory>
+#include <unordered_map>
+
+namespace valmerix {
+
+/// The screen: gives each window that is shown its view, for as long as the window is open. Views go before
+/// their windows.
+class PantallaQt : public QObject, public Pantalla
+{
+    Q_OBJECT
+
+public:
+    PantallaQt();
+    ~PantallaQt() override;
+
+    void Mostrar(Ventana& ventana) override;
+    /// Returns once the window has been closed or hidden.
+    void MostrarModal(Ventana& ventana) override;
+    QRect area() const override;
+
+    /// The view of a window, null when it has none at the moment.
+    VistaVentana* vista(const Ventana& ventana) const;
+
+private:
+    VistaVentana& VistaDe(Ventana& ventana);
+    void Retirar(const QObject* ventana);
+
+    struct Borrador
+    {
+        void operator()(VistaVentana* vista) const;
+    };
+    std::unordered_map<const QObject*, std::unique_ptr<VistaVentana, Borrador>> vistas_;
+};
+
+} // namespace valmerix

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "common/ports.h"
+
+#include <QLockFile>
+#include <memory>
+
+namespace valmerix {
+
+class RelojQt : public Reloj
+{
+public:
+    QDate hoy() const override;
+};
+
+/// The folder that holds the program's data: that of the executable when it holds "Datos" or may hold it,
+/// `datosDeUsuario` otherwise (an installed program).
+QString CarpetaDelPrograma(const QString& carpetaEjecutable, const QString& datosDeUsuario);
+
+/// The machine as Qt sees it.
+class SistemaQt : public Sistema
+{
+public:
+    /// The folder by the rule above.
+    SistemaQt();
+    explicit SistemaQt(const QString& carpeta);
+    ~SistemaQt() override;
+
+    QString carpetaPrograma() const override { return carpeta_; }
+    bool otraInstancia() override;
+    bool Arrancar(const QString& orden, const QStringList& argumentos, const QString& carpeta) override;
+    void Pitar() override;
+    void PunteroOcupado(bool ocupado) override;
+    void DejarPintar() override;
+    void CopiarAlPortapapeles(const QString& texto) override;
+    [[noreturn]] void TerminarProceso(int codigo) override;
+
+private:
+    QString carpeta_;
+    std::unique_ptr<QLockFile> cerrojo_;
+};
+
+} // namespace valmerix
