@@ -6,6 +6,7 @@ passed=0 failed=0 failures=()
 export QT_QPA_PLATFORM=offscreen
 unset DISPLAY WAYLAND_DISPLAY
 command -v ccache >/dev/null && export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
 command -v ld.lld >/dev/null && export LDFLAGS=-fuse-ld=lld
 export UBSAN_OPTIONS=print_stacktrace=1
 export LSAN_OPTIONS=suppressions=$PWD/tests/lsan.supp:print_suppressions=0
@@ -67,7 +68,36 @@ stage_dev() { build dev && LC_ALL=C.UTF-8 run_ctest "tests" dev; }
 # the same tests under the sanitizers, in the other locale that every machine has
 stage_asan() { build asan && LC_ALL=C run_ctest "tests under sanitizers" asan -E '^tools\.'; }
 
+# each fuzzer for half a minute, as many at once as there are cores; a find fails the check of its name
+stage_fuzz() {
+    build fuzz --target fuzzers || return
+    local fuzzer name
+    find build/fuzz/tests/fuzz -maxdepth 1 -name 'fuzz_*' -type f -executable | sort >"$log/fuzzers.txt"
+    check "fuzzers are there" test -s "$log/fuzzers.txt" || return
+    xargs -P "$jobs" -I{} bash -c '
+        name=$(basename {})
+        {} -max_total_time=30 -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$0/$name." \
+            >"$0/$name.run.txt" 2>&1
+        echo $? >"$0/$name.code"' "$log" <"$log/fuzzers.txt"
+    while read -r fuzzer; do
+        name=$(basename "$fuzzer")
+        check "$name" bash -c 'tail -n 30 "$0.run.txt"; exit "$(cat "$0.code")"' "$log/$name"
+    done <"$log/fuzzers.txt"
+}
+
 stage_tidy() {
     build dev || return
-    check "clang-tidy" run-clang-tidy -quiet -p build/dev -j "$jobs" "$PWD/src/.*\.cpp$"
+    check "clang-tidy" scripts/tidy.py build/dev "$jobs"
+}
+
+# short runs: they show that the benchmarks work and give the ratios to their baselines, not exact times
+stage_bench() {
+    build release || return
+    local program found=0
+    while read -r program; do
+        found=1
+        check "$(basename "$program")" "$program" --benchmark_min_time=0.05 \
+            --benchmark_out="$log/$(basename "$program").json" --benchmark_out_format=json
+    done < <(find build/release -name 'bench_*' -type f -executable | sort)
+    [ $found = 0 ] || python3 scripts/bench_ratios.py "$log"/bench_*.json
 }
