@@ -61,6 +61,8 @@ stage_layers() { check "layers" scripts/check_layers.sh; }
 
 stage_format() {
     check "format" bash -c 'git ls-files -z "*.cpp" "*.h" | xargs -0 clang-format --dry-run -Werror'
+    check "desktop file" desktop-file-validate packaging/valmerix.desktop
+    check "metainfo" appstreamcli validate --no-net packaging/valmerix.metainfo.xml
 }
 
 stage_dev() { build dev && LC_ALL=C.UTF-8 run_ctest "tests" dev; }
