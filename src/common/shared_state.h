@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 namespace valmerix {
 
@@ -22,6 +23,9 @@ struct EstadoCompartido
     float PosicionTop = 0;
     float PosicionWidth = 0;
     qint16 PosicionHeight = 0;
+
+    /// Told of every SQL text just before it runs, with the name of its database; for tests and diagnosis.
+    std::function<void(const QString& base, const QString& sql)> alEjecutarSQL;
 };
 
 } // namespace valmerix
