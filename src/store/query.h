@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/shared_state.h"
 #include "store/snapshot.h"
 
 #include <QString>
@@ -23,6 +24,8 @@ private:
 
 namespace AccesoDatos {
 
+class Conexion;
+
 /// The connection object: one lives for one user action. Two named databases: "Empresa" and "Ejercicio".
 /// Statements run at once; all of one clsConsulta are committed together by Confirmar or, when an exception
 /// unwinds, by the destructor: what was executed before the failing statement stays done. A kill or a power
@@ -31,6 +34,8 @@ class clsConsulta
 {
 public:
     clsConsulta();
+    /// Tells `compartido.alEjecutarSQL` of each text it runs; `compartido` outlives this object.
+    explicit clsConsulta(const EstadoCompartido& compartido);
     ~clsConsulta();
     clsConsulta(const clsConsulta&) = delete;
     clsConsulta& operator=(const clsConsulta&) = delete;
@@ -47,8 +52,11 @@ public:
     /// INSERT on one table). Throws ErrorAlmacen; any other text is refused before a byte is written.
     void EjecutarSentencia(const QString& base, const QString& sql);
 
-    /// Commits what was executed so far. Throws ErrorAlmacen when the disk refuses.
+    /// Commits what was executed so far. Throws ErrorAlmacen when the disk refuses, or when the engine has
+    /// already undone it: then nothing of it stands.
     void Confirmar();
+    /// The same for the way out of a failure: true when what was executed stands.
+    bool ConfirmarLoHecho() noexcept;
 
     QString sInicioFecha() const; ///< opens a date literal; the text inside is "dd/mm/yyyy"
     QString sFinalFecha() const;
@@ -58,14 +66,14 @@ public:
     QString FormatoMonedaSelect(const QString& columna, int decimales, const QString& alias) const;
 
 private:
-    struct Conexion;
+    Conexion& conexion(const QString& base, const QString& sql) const;
+    void Avisar(const QString& base, const QString& sql) const;
+
+    const EstadoCompartido* compartido_ = nullptr;
     std::unique_ptr<Conexion> empresa_;
     std::unique_ptr<Conexion> ejercicio_;
 };
 
 } // namespace AccesoDatos
-
-/// Notified of every SQL text that is run, in order; for tests and diagnosis. Null by default.
-/// (Handed to clsConsulta through `ObservadorSQL::Instalar`, which returns the former one.)
 
 } // namespace valmerix

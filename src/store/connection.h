@@ -1,0 +1,44 @@
+#pragma once
+
+#include "store/query.h"
+
+#include <SQLiteCpp/Database.h>
+#include <string>
+#include <vector>
+
+struct sqlite3_stmt;
+
+namespace valmerix::AccesoDatos {
+
+/// One open database file and the transaction that its writes share.
+class Conexion
+{
+public:
+    /// Throws ErrorAlmacen. A file that may not be written opens for reading.
+    explicit Conexion(const QString& ruta);
+
+    ConjuntoResultados Leer(const QString& sql, const std::string& utf8);
+    /// Prepares all of them before it runs the first.
+    void Escribir(const QString& sql, const std::vector<std::string>& utf8);
+    void Confirmar();
+
+private:
+    struct Soltar
+    {
+        void operator()(sqlite3_stmt* sentencia) const;
+    };
+    using Sentencia = std::unique_ptr<sqlite3_stmt, Soltar>;
+
+    void Preparar();
+    void ComprobarQueEsNuestra(const QString& ruta);
+    qint64 Pragma(const char* nombre);
+    void Mandar(const char* orden, const QString& sql);
+    Sentencia Compilar(const QString& sql, const std::string& utf8, bool soloLectura);
+    void ComprobarQueSigueEnPie(const QString& sql);
+    [[noreturn]] void Fallar(int codigo, const QString& sql);
+
+    SQLite::Database base_;
+    bool escribiendo_ = false;
+};
+
+} // namespace valmerix::AccesoDatos
