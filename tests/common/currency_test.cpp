@@ -102,6 +102,8 @@ TEST(CurrencyTest, RefusesWhatDoesNotFit)
     EXPECT_THROW(Currency::de(922337203685477.625), ErrorDesbordamiento);
     EXPECT_THROW(Currency::de(-922337203685477.625), ErrorDesbordamiento);
     EXPECT_THROW(Currency::de(922337203685478.0), ErrorDesbordamiento);
+    EXPECT_THROW(Currency::de(1844674407370955.25),
+                 ErrorDesbordamiento); // small again once 64 bits wrap round
     EXPECT_THROW(Currency::de(1e300), ErrorDesbordamiento);
     EXPECT_THROW(Currency::de(std::numeric_limits<double>::infinity()), ErrorDesbordamiento);
     EXPECT_THROW(Currency::de(-std::numeric_limits<double>::infinity()), ErrorDesbordamiento);

@@ -85,6 +85,7 @@ TEST_F(IniFileTest, OnlyWholeLinesAreComments)
 {
     EXPECT_EQ(Leido("; [Datos]\n[Datos] ; la base\n;RutaAcceso=no\n  ; RutaAcceso=no\nRutaAcceso=si ;=no\n"),
               u"si ;=no"_s);
+    EXPECT_EQ(LeerIni(ruta_, u"Datos"_s, u";RutaAcceso"_s), u""_s);
 }
 
 TEST_F(IniFileTest, TheFirstSectionAndTheFirstKeyCount)
@@ -119,6 +120,10 @@ TEST_F(IniFileTest, ALineTooLongHidesNoneOfTheNext)
     const QByteArray larga(50000, 'x');
     EXPECT_EQ(Leido("[Datos]\n" + larga + "\nRutaAcceso=si\n"), u"si"_s);
     EXPECT_EQ(Leido("[Datos]\n" + larga + "RutaAcceso=no\n"), u"(defecto)"_s);
+    for (int largo = 16370; largo < 16400; ++largo) {
+        EXPECT_EQ(Leido("[Datos]\n" + QByteArray(largo, 'x') + "\rRutaAcceso=no\n"), u"(defecto)"_s) << largo;
+        EXPECT_EQ(Leido("[Datos]\n" + QByteArray(largo, 'x') + "RutaAcceso=no\n"), u"(defecto)"_s) << largo;
+    }
     // Lines that just fill the reader's buffer, with and without their end in it.
     for (int largo = 16370; largo < 16400; ++largo) {
         EXPECT_EQ(Leido("[Datos]\n" + QByteArray(largo, ';') + "\nRutaAcceso=si\n"), u"si"_s) << largo;
@@ -128,6 +133,7 @@ TEST_F(IniFileTest, ALineTooLongHidesNoneOfTheNext)
 TEST_F(IniFileTest, ReadsUtf8WithAndWithoutMarkAndLatin1)
 {
     EXPECT_EQ(Leido("\xEF\xBB\xBF[Datos]\nRutaAcceso=/casa/Peñíscola.mdb\n"), u"/casa/Peñíscola.mdb"_s);
+    EXPECT_EQ(Leido("\xEF\xBB\xBF[Datos] ; la base del a\xF1o\nRutaAcceso=x\n"), u"x"_s);
     EXPECT_EQ(Leido("[Datos]\nRutaAcceso=/casa/Peñíscola.mdb\n"), u"/casa/Peñíscola.mdb"_s);
     EXPECT_EQ(Leido("[Datos]\nRutaAcceso=/casa/Pe\xF1\xEDscola\n"), u"/casa/Peñíscola"_s);
     EXPECT_EQ(Leido("[Datos]\nRutaAcceso=C:\\caf\xE9"), u"C:\\café"_s);
