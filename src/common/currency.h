@@ -44,7 +44,8 @@ public:
     Currency operator-(Currency otro) const;
     Currency& operator+=(Currency otro) { return *this = *this + otro; }
 
-    constexpr auto operator<=>(const Currency&) const = default;
+    // The check takes the 0 that a defaulted comparison is compared with for a null pointer.
+    constexpr auto operator<=>(const Currency&) const = default; // NOLINT(modernize-use-nullptr)
 
 private:
     qint64 n_ = 0;

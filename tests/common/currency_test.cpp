@@ -61,7 +61,7 @@ TEST(CurrencyTest, AgreesWithExactDecimalArithmeticNearEveryTie)
     std::mt19937_64 azar(20261120);
     for (int i = 0; i < 20000; ++i) {
         const int bits = 1 + static_cast<int>(azar() % 49);
-        const double enteros = static_cast<double>(azar() % (quint64{1} << bits));
+        const auto enteros = static_cast<double>(azar() % (quint64{1} << bits));
         double importe = enteros + (static_cast<double>(azar() % 10000) + 0.5) / 10000.0;
         const auto pasos = static_cast<int>(azar() % 5) - 2;
         for (int paso = 0; paso < std::abs(pasos); ++paso) {
@@ -78,7 +78,7 @@ TEST(CurrencyTest, AgreesWithExactDecimalArithmeticForAnyBits)
     std::mt19937_64 azar(7);
     int probados = 0;
     while (probados < 5000) {
-        const double importe = std::bit_cast<double>(azar());
+        const auto importe = std::bit_cast<double>(azar());
         if (!(std::fabs(importe) < 9.2e14)) {
             continue;
         }

@@ -210,7 +210,7 @@ TEST(NumberPatternTest, AgreesWithDecimalArithmeticForAnyBits)
 {
     std::mt19937_64 azar(16);
     for (int i = 0; i < 500; ++i) {
-        const double valor = std::bit_cast<double>(azar());
+        const auto valor = std::bit_cast<double>(azar());
         if (!std::isfinite(valor)) {
             continue;
         }
