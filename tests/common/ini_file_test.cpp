@@ -14,6 +14,13 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+/// All of a literal, its nulls too, but for the one that ends it.
+template <size_t N>
+QByteArray Bytes(const char (&literal)[N])
+{
+    return {literal, static_cast<qsizetype>(N - 1)};
+}
+
 class IniFileTest : public testing::Test
 {
 protected:
@@ -141,8 +148,8 @@ TEST_F(IniFileTest, ReadsUtf8WithAndWithoutMarkAndLatin1)
 
 TEST_F(IniFileTest, NullsAndJunkDoNoHarm)
 {
-    EXPECT_EQ(Leido(QByteArray("[Datos]\nRutaAcceso=bien\0mal\n", 29)), u"bien"_s);
-    EXPECT_EQ(Leido(QByteArray("\0\0[[]]==\n=\n[\n]\n[Datos\n[Datos]\n\0=\nRutaAcceso=si\n", 53)), u"si"_s);
+    EXPECT_EQ(Leido(Bytes("[Datos]\nRutaAcceso=bien\0mal\n")), u"bien"_s);
+    EXPECT_EQ(Leido(Bytes("\0\0[[]]==\n=\n[\n]\n[Datos\n[Datos]\n\0=\nRutaAcceso=si\n")), u"si"_s);
     std::mt19937 azar(12);
     for (int i = 0; i < 50; ++i) {
         QByteArray ruido(5000, Qt::Uninitialized);
