@@ -16,6 +16,29 @@ QString PlegarUnidades(QStringView texto)
 
 } // namespace
 
+void TextoEnriquecido::AvisarContenido()
+{
+    contenidoPendiente_ = !redibujar_;
+    if (redibujar_)
+        Q_EMIT ContenidoCambiado();
+}
+
+void TextoEnriquecido::AvisarSeleccion()
+{
+    seleccionPendiente_ = !redibujar_;
+    if (redibujar_)
+        Q_EMIT SeleccionCambiada();
+}
+
+void TextoEnriquecido::setRedraw(bool valor)
+{
+    redibujar_ = valor;
+    if (contenidoPendiente_ && redibujar_)
+        AvisarContenido();
+    if (seleccionPendiente_ && redibujar_)
+        AvisarSeleccion();
+}
+
 void TextoEnriquecido::setText(const QString& texto)
 {
     texto_ = texto;
@@ -25,7 +48,7 @@ void TextoEnriquecido::setText(const QString& texto)
     alineaciones_.assign(static_cast<size_t>(texto_.count(u'\n')) + 1, Alineacion::Izquierda);
     selInicio_ = 0;
     selLongitud_ = 0;
-    Q_EMIT ContenidoCambiado();
+    AvisarContenido();
     Q_EMIT Change();
 }
 
@@ -44,7 +67,7 @@ void TextoEnriquecido::Seleccionar(int inicio, int longitud)
     const int total = static_cast<int>(texto_.size());
     selInicio_ = std::clamp(inicio, 0, total);
     selLongitud_ = std::clamp(longitud, 0, total - selInicio_);
-    Q_EMIT SeleccionCambiada();
+    AvisarSeleccion();
 }
 
 void TextoEnriquecido::setSelLength(int longitud)
@@ -66,7 +89,7 @@ void TextoEnriquecido::SelBold()
     const auto sitio = std::lower_bound(negritas_.begin(), negritas_.end(), nuevo,
                                         [](const Tramo& a, const Tramo& b) { return a.inicio < b.inicio; });
     negritas_.insert(sitio, nuevo);
-    Q_EMIT ContenidoCambiado();
+    AvisarContenido();
 }
 
 void TextoEnriquecido::SelAlignment(Alineacion alineacion)
@@ -74,7 +97,7 @@ void TextoEnriquecido::SelAlignment(Alineacion alineacion)
     const int ultimo = ParrafoDe(selInicio_ + selLongitud_);
     for (int p = ParrafoDe(selInicio_); p <= ultimo; ++p)
         alineaciones_[static_cast<size_t>(p)] = alineacion;
-    Q_EMIT ContenidoCambiado();
+    AvisarContenido();
 }
 
 void TextoEnriquecido::setLocked(bool valor)

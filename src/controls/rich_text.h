@@ -46,6 +46,10 @@ public:
     bool Locked() const { return bloqueado_; }
     void setLocked(bool valor);
 
+    /// Views hold back while redraw is off; turning it on tells them once what has changed meanwhile.
+    bool Redraw() const { return redibujar_; }
+    void setRedraw(bool valor);
+
     /// Bold stretches in order, not touching one another.
     const std::vector<Tramo>& negritas() const { return negritas_; }
     Alineacion alineacion(int parrafo) const;
@@ -66,6 +70,8 @@ Q_SIGNALS:
     void Change();
 
 private:
+    void AvisarContenido();
+    void AvisarSeleccion();
     int ParrafoDe(int posicion) const;
     void AjustarNegritas(int posicion, int quitados, int puestos);
 
@@ -76,6 +82,9 @@ private:
     int selInicio_ = 0;
     int selLongitud_ = 0;
     bool bloqueado_ = true;
+    bool redibujar_ = true;
+    bool contenidoPendiente_ = false;
+    bool seleccionPendiente_ = false;
 };
 
 } // namespace valmerix
