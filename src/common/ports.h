@@ -50,4 +50,16 @@ public:
     virtual void TerminarProceso(int codigo) = 0;
 };
 
+enum class FuenteImagen { Fichero, Camara, Escaner };
+
+/// Takes a picture from outside: a file, the camera, the scanner.
+class CapturaImagenes
+{
+public:
+    virtual ~CapturaImagenes() = default;
+    /// Path of a bitmap file with the picture, kept while the process runs; nothing when she cancels or the
+    /// source fails, which it has told her then.
+    virtual std::optional<QString> LoadCapture(FuenteImagen fuente, const QString& carpetaPrograma) = 0;
+};
+
 } // namespace valmerix

@@ -3,6 +3,7 @@
 #include "common/dates.h"
 #include "common/number_pattern.h"
 #include "common/number_reading.h"
+#include "controls/date_picker.h"
 #include "valuation/case_events.h"
 #include "valuation/key_filters.h"
 
@@ -169,13 +170,7 @@ Currency Formulario::PrecioMedio(const Rejilla& rejilla, int columnaSuperficie, 
 
 bool Formulario::ElegirFecha(CampoTexto& campo)
 {
-    if (!LeerFecha(campo.Text()))
-        campo.setText(FechaVisible(servicios_.reloj.hoy()));
-    const auto fecha = LeerFecha(campo.Text()).value_or(servicios_.reloj.hoy());
-    const auto elegida = servicios_.dialogos.MostrarCalendario(fecha);
-    if (elegida)
-        campo.setText(FechaVisible(*elegida));
-    return elegida.has_value();
+    return valmerix::ElegirFecha(campo, servicios_.dialogos, servicios_.reloj);
 }
 
 void Formulario::ComponerFrasesDelEdificio()
