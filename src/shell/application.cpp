@@ -1,0 +1,335 @@
+#include "shell/application.h"
+
+#include "report/notes_and_problem.h"
+#include "report/progress.h"
+#include "report/viewer_bar.h"
+#include "report/word_processor_chooser.h"
+#include "settings/valuers_company.h"
+#include "shell/case_opening.h"
+#include "shell/case_tree.h"
+#include "shell/exit_restart.h"
+#include "shell/start_window.h"
+#include "store/query.h"
+#include "store/schema.h"
+#include "valuation/case_form.h"
+#include "valuation/kind_descriptions.h"
+
+#include <QFileInfo>
+#include <stdexcept>
+
+namespace valmerix {
+
+using namespace Qt::StringLiterals;
+
+Aplicacion::Aplicacion(const Puertos& puertos)
+    : puertos_(puertos)
+{
+}
+
+Aplicacion::~Aplicacion() = default;
+
+void Aplicacion::Arrancar()
+{
+    try {
+        InstalarSiFalta();
+        MostrarInicio();
+    } catch (const std::exception& fallo) {
+        puertos_.dialogos.Mensaje(u"Valmerix no ha podido arrancar.\n"_s + MensajeDe(fallo), u"Error"_s,
+                                  IconoMensaje::Critico);
+        puertos_.sistema.TerminarProceso(1);
+    }
+}
+
+void Aplicacion::InformarFallo(const std::exception& fallo)
+{
+    puertos_.sistema.PunteroOcupado(false);
+    const auto* almacen = dynamic_cast<const ErrorAlmacen*>(&fallo);
+    const bool seguir = puertos_.dialogos.InformarFallo(
+        u"La operación se ha detenido donde estaba; la ventana y todo lo escrito siguen como estaban.\n\n"_s +
+            MensajeDe(fallo),
+        almacen ? almacen->sql() : QString());
+    if (!seguir)
+        puertos_.sistema.TerminarProceso(1);
+}
+
+void Aplicacion::InstalarSiFalta()
+{
+    const QString ruta = RutaBaseDatosConfigurada(puertos_.sistema);
+    // Only the program's own place is filled; a path of the ini file that leads nowhere is her mistake to see.
+    if (ruta == RutaBaseDatosPorDefecto(puertos_.sistema) && !QFileInfo::exists(ruta))
+        InstalarBaseDatos(ruta);
+    const QString plantilla = puertos_.sistema.carpetaPrograma() + u"/Datos/Testigos.mak"_s;
+    if (ruta == RutaBaseDatosPorDefecto(puertos_.sistema) && !QFileInfo::exists(plantilla))
+        InstalarPlantillaTestigos(plantilla);
+}
+
+void Aplicacion::MostrarInicio()
+{
+    inicio_ =
+        std::make_unique<Form1>(compartido_, puertos_.reloj, puertos_.sistema, puertos_.pantalla);
+    connect(inicio_.get(), &Form1::AbrirPedido, this, &Aplicacion::AbrirCaso);
+    connect(inicio_.get(), &Form1::CopiarPedido, this, &Aplicacion::CopiarCaso);
+    connect(inicio_.get(), &Form1::NuevoPedido, this, &Aplicacion::NuevoCaso);
+    connect(inicio_.get(), &Form1::SalidaPedida, this, &Aplicacion::MostrarSalida);
+    inicio_->HabilitarTipos(TiposHechos());
+    inicio_->Load();
+    puertos_.pantalla.Mostrar(*inicio_);
+}
+
+void Aplicacion::CerrarInicio()
+{
+    Retirar(inicio_);
+}
+
+void Aplicacion::CargarFicha()
+{
+    if (ficha_ && ficha_->abierta())
+        return;
+    ficha_ = std::make_unique<Ficha>(compartido_, puertos_.dialogos, puertos_.reloj, puertos_.sistema);
+    ficha_->Load();
+}
+
+void Aplicacion::CrearFormulario(const QString& letra)
+{
+    const DescripcionForma* descripcion = letra.size() == 1 ? DescripcionDe(letra.front()) : nullptr;
+    if (!descripcion) {
+        throw std::runtime_error(
+            u"Esta versión no abre tasaciones del tipo «%1»."_s.arg(letra).toStdString());
+    }
+    formulario_ = std::make_unique<Formulario>(
+        *descripcion, ServiciosCaso{compartido_, calculo_, frases_, opciones_, puertos_.dialogos,
+                                    puertos_.reloj, puertos_.sistema, *this});
+    formulario_->Load();
+}
+
+bool Aplicacion::AbrirCaso(const QString& clave)
+{
+    retiradas_.clear();
+    if (clave.isEmpty())
+        throw std::runtime_error("No hay ninguna tasación seleccionada en el árbol.");
+    const std::optional<ClaveCaso> caso = PartirClave(clave);
+    if (!caso)
+        return false;
+    CargarFicha();
+    try {
+        CrearFormulario(caso->Tipo);
+        CargarCaso(*formulario_, compartido_, *caso);
+    } catch (const std::exception&) {
+        formulario_.reset(); // half loaded: nothing of it may be saved; the start window stays
+        LimpiarEstado();
+        throw;
+    }
+    MostrarCaso();
+    return true;
+}
+
+void Aplicacion::CopiarCaso(const QString& clave)
+{
+    // On a folder there is nothing to copy, and the start window is the only one open.
+    if (AbrirCaso(clave))
+        compartido_.NumeroTasacionActual = 0;
+}
+
+void Aplicacion::NuevoCaso(int indice)
+{
+    retiradas_.clear();
+    puertos_.sistema.PunteroOcupado(true);
+    CargarFicha();
+    CrearFormulario(LetraDelBoton(indice));
+    MostrarCaso();
+    puertos_.sistema.PunteroOcupado(false);
+}
+
+void Aplicacion::MostrarCaso()
+{
+    minimizado_ = std::make_unique<Minimizado>(compartido_, *this);
+    minimizado_->setCaption(formulario_->control(u"EtiquetaCaption").Caption());
+    puertos_.pantalla.Mostrar(*minimizado_);
+    puertos_.pantalla.Mostrar(*formulario_);
+    formulario_->CargaPaleta();
+    CerrarInicio();
+}
+
+void Aplicacion::EjecutarOrden(OrdenPaleta orden)
+{
+    retiradas_.clear();
+    switch (orden) {
+    case OrdenPaleta::Informe:
+        RedactarInforme();
+        break;
+    case OrdenPaleta::CerrarVisor:
+        CerrarVisor();
+        break;
+    case OrdenPaleta::Reinicio: {
+        Reinicio reinicio(puertos_.pantalla);
+        connect(&reinicio, &Reinicio::Confirmado, this, [&] {
+            puertos_.sistema.PunteroOcupado(true);
+            puertos_.sistema.DejarPintar();
+            compartido_.MostrarPortada = u"NO"_s;
+            reinicio.Cerrar();
+            Reiniciar();
+        });
+        puertos_.pantalla.MostrarModal(reinicio);
+        break;
+    }
+    case OrdenPaleta::Guardar:
+        Guardar();
+        break;
+    default:
+        break; // the other buttons stand disabled
+    }
+}
+
+void Aplicacion::RedactarInforme()
+{
+    if (!formulario_)
+        return;
+    CerrarVisor();
+    visor_ = std::make_unique<Visor>(compartido_, opciones_, puertos_.dialogos, puertos_.sistema, *this);
+    calculos_ = std::make_unique<Calculos>(
+        CasoInforme{*formulario_, formulario_->nombre(), calculo_, frases_, opciones_, compartido_}, *visor_,
+        puertos_.sistema, *this);
+    calculos_->TipoDocumento = u"Informe"_s;
+    calculos_->Load();
+    puertos_.pantalla.Mostrar(*calculos_);
+}
+
+void Aplicacion::MostrarVisor()
+{
+    if (visor_)
+        puertos_.pantalla.Mostrar(*visor_);
+}
+
+void Aplicacion::MinimizarVisor()
+{
+    if (!visor_)
+        return;
+    if (!visorMin_ || !visorMin_->abierta())
+        visorMin_ = std::make_unique<VisorMin>(*visor_);
+    puertos_.pantalla.Mostrar(*visorMin_);
+    visorMin_->MinimizarVisor();
+}
+
+void Aplicacion::CerrarVisor()
+{
+    Retirar(calculos_);
+    Retirar(visorMin_);
+    Retirar(visor_);
+}
+
+void Aplicacion::MostrarOpciones()
+{
+    Opciones configuracion(compartido_, opciones_, puertos_.sistema, puertos_.captura, *this,
+                           puertos_.pantalla);
+    configuracion.Load();
+    puertos_.pantalla.MostrarModal(configuracion);
+    if (formulario_)
+        formulario_->ActualizarMoneda();
+}
+
+void Aplicacion::MostrarBusqueda(CampoTexto& trayecto)
+{
+    Busqueda selector(compartido_, &trayecto, puertos_.dialogos);
+    puertos_.pantalla.MostrarModal(selector);
+}
+
+void Aplicacion::Guardar()
+{
+    if (formulario_)
+        GuardarCaso(*formulario_, compartido_, puertos_.dialogos);
+}
+
+void Aplicacion::Reiniciar()
+{
+    Retirar(paleta_);
+    Retirar(formulario_);
+    Retirar(minimizado_);
+    CerrarVisor();
+    try {
+        MostrarInicio();
+    } catch (const std::exception& fallo) {
+        InformarFallo(fallo);
+    }
+    LimpiarEstado();
+    puertos_.sistema.PunteroOcupado(false);
+}
+
+void Aplicacion::LimpiarEstado()
+{
+    frases_ = {};
+    calculo_ = {};
+    compartido_.NumeroTasacionActual = 0;
+}
+
+void Aplicacion::MostrarFicha()
+{
+    CargarFicha();
+    puertos_.pantalla.MostrarModal(*ficha_);
+}
+
+void Aplicacion::MostrarObservaciones()
+{
+    Observaciones editor(*formulario_);
+    puertos_.pantalla.MostrarModal(editor);
+}
+
+void Aplicacion::MostrarProblema()
+{
+    Problema editor(frases_);
+    puertos_.pantalla.MostrarModal(editor);
+}
+
+void Aplicacion::MostrarSalida()
+{
+    SALIDA salida(puertos_.sistema, puertos_.pantalla);
+    puertos_.pantalla.MostrarModal(salida);
+}
+
+void Aplicacion::Minimizar()
+{
+    if (minimizado_)
+        minimizado_->MinimizarCaso();
+}
+
+Ventana* Aplicacion::ventanaDelCaso()
+{
+    return formulario_.get();
+}
+
+void Aplicacion::MostrarPaleta(bool abierta)
+{
+    if (!abierta) {
+        CerrarPaleta();
+        return;
+    }
+    MostrarPaletaEn(static_cast<int>(compartido_.PosicionLeft + compartido_.PosicionWidth),
+                    static_cast<int>(compartido_.PosicionTop));
+}
+
+void Aplicacion::MostrarPaletaEn(int izquierda, int arriba)
+{
+    if (!formulario_)
+        return;
+    if (!paleta_ || !paleta_->abierta()) {
+        paleta_ = std::make_unique<Form2>(formulario_->nombre());
+        connect(paleta_.get(), &Form2::Pedida, this, &Aplicacion::EjecutarOrden);
+        connect(paleta_.get(), &Form2::CierrePedido, this, [this] {
+            compartido_.CierrePaleta = true;
+            formulario_->control(u"SSCommand3").setTag(u"N"_s);
+            compartido_.CierrePaleta = false;
+            CerrarPaleta();
+        });
+    }
+    QRect lugar = paleta_->lugar();
+    lugar.moveTopLeft({izquierda, arriba});
+    paleta_->Mover(lugar);
+    puertos_.pantalla.Mostrar(*paleta_);
+}
+
+void Aplicacion::CerrarPaleta()
+{
+    Retirar(paleta_);
+    compartido_.PaletaAbierta = false;
+}
+
+} // namespace valmerix

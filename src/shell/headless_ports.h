@@ -1,0 +1,62 @@
+#pragma once
+
+#include "common/ports.h"
+#include "valuation/case_environment.h"
+
+#include <QIODevice>
+#include <QTemporaryDir>
+
+namespace valmerix {
+
+/// Ports of a run without windows: messages go to a stream, questions are answered no, nothing is shown.
+class DialogosSinPantalla : public Dialogos
+{
+public:
+    explicit DialogosSinPantalla(QIODevice& errores)
+        : errores_(errores)
+    {
+    }
+    void Mensaje(const QString& texto, const QString& titulo, IconoMensaje icono) override;
+    bool Preguntar(const QString& texto, const QString& titulo, IconoMensaje icono) override;
+    bool InformarFallo(const QString& texto, const QString& detalle) override;
+    std::optional<QDate> MostrarCalendario(QDate) override { return std::nullopt; }
+
+private:
+    QIODevice& errores_;
+};
+
+class RelojDelSistema : public Reloj
+{
+public:
+    QDate hoy() const override { return QDate::currentDate(); }
+};
+
+/// A program folder of its own, gone at the end.
+class SistemaSinPantalla : public Sistema
+{
+public:
+    QString carpetaPrograma() const override { return carpeta_.path(); }
+    bool otraInstancia() override { return false; }
+    bool Arrancar(const QString&, const QStringList&, const QString&) override { return false; }
+    void Pitar() override {}
+    void PunteroOcupado(bool) override {}
+    void DejarPintar() override {}
+    void CopiarAlPortapapeles(const QString&) override {}
+    void TerminarProceso(int) override {}
+
+private:
+    QTemporaryDir carpeta_;
+};
+
+class EntornoSinPantalla : public EntornoCaso
+{
+public:
+    void MostrarFicha() override {}
+    void MostrarObservaciones() override {}
+    void MostrarProblema() override {}
+    void MostrarSalida() override {}
+    void Minimizar() override {}
+    void MostrarPaleta(bool) override {}
+};
+
+} // namespace valmerix

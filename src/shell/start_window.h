@@ -1,0 +1,49 @@
+#pragma once
+
+#include "common/ports.h"
+#include "common/shared_state.h"
+#include "controls/window.h"
+
+namespace valmerix {
+
+/// Fixes the money pattern from the settings; it stays as it was when they have no row. Throws ErrorAlmacen.
+void LeerFormatoMoneda(EstadoCompartido& compartido);
+
+/// `Form1`: the title, the tree of stored cases, the six buttons for new ones.
+class Form1 : public Ventana
+{
+    Q_OBJECT
+
+public:
+    Form1(EstadoCompartido& compartido, Reloj& reloj, Sistema& sistema, Pantalla& pantalla);
+
+    /// The start sequence. Ends the process when another instance runs. Throws ErrorAlmacen.
+    void Load();
+    /// Hides the title and shows menu and tree.
+    void TerminarPortada();
+
+    /// Kinds whose window stands, by the index of their button; the others are disabled.
+    void HabilitarTipos(const std::vector<bool>& hechos);
+
+Q_SIGNALS:
+    void AbrirPedido(const QString& clave);
+    void CopiarPedido(const QString& clave);
+    void NuevoPedido(int indice);
+    void SalidaPedida();
+
+protected:
+    void AlCerrar() override;
+
+private:
+    void CrearControles();
+    void ConectarControles();
+    void TicPortada();
+
+    EstadoCompartido& compartido_;
+    Reloj& reloj_;
+    Sistema& sistema_;
+    Pantalla& pantalla_;
+    qint16 letrasVistas_ = 0;
+};
+
+} // namespace valmerix

@@ -1,0 +1,76 @@
+#include "shell/toolbar.h"
+
+#include <array>
+
+namespace valmerix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct FilaBoton {
+    QStringView titulo;
+    QStringView ayuda; ///< empty while the command is still to come
+};
+
+constexpr std::array kBotonera = {
+    FilaBoton{u"Informe", u"Redactar el informe de esta tasación"},
+    FilaBoton{u"Cerrar visor", u"Cerrar el visor del informe"},
+    FilaBoton{u"Configuración", u""},
+    FilaBoton{u"Reinicio", u"Volver al menú inicial"},
+    FilaBoton{u"Abrir", u""},
+    FilaBoton{u"Guardar", u"Guardar esta tasación"},
+    FilaBoton{u"Importar", u""},
+    FilaBoton{u"Exportar", u""},
+    FilaBoton{u"Ayuda", u""},
+    FilaBoton{u"Extensión", u""},
+    FilaBoton{u"Listados", u""},
+    FilaBoton{u"Testigos", u""},
+};
+
+constexpr std::array<QStringView, 3> kGrupos = {u"Navegación", u"Datos", u"Sistema"};
+
+struct ColoresForma {
+    QStringView forma;
+    QStringView image1;
+    QStringView image2;
+};
+
+constexpr std::array kColores = {
+    ColoresForma{u"Piso", u"230,0,0", u"230,0,0"},
+    ColoresForma{u"Apto", u"255,0,130", u"0,255,230"},
+    ColoresForma{u"Casa", u"56,56,168", u"153,0,0"},
+    ColoresForma{u"Nave", u"245,205,110", u"180,100,0"},
+    ColoresForma{u"Loca", u"200,255,0", u"200,255,0"},
+};
+
+} // namespace
+
+Form2::Form2(const QString& forma)
+    : Ventana(u"Form2"_s, u"Herramientas"_s)
+{
+    Añadir<Imagen>(u"Image1"_s);
+    Añadir<Imagen>(u"Image2"_s);
+    for (const ColoresForma& fila : kColores) {
+        if (fila.forma == forma) {
+            control(u"Image1").setTag(fila.image1.toString());
+            control(u"Image2").setTag(fila.image2.toString());
+        }
+    }
+    for (int i = 0; i < static_cast<int>(kGrupos.size()); ++i)
+        Añadir<Etiqueta>(Indice(u"Label1", i)).setCaption(kGrupos[static_cast<size_t>(i)].toString());
+    for (int i = 0; i < static_cast<int>(kBotonera.size()); ++i) {
+        const FilaBoton& fila = kBotonera[static_cast<size_t>(i)];
+        auto& boton = Añadir<Boton>(Indice(u"Botonera", i));
+        boton.setCaption(fila.titulo.toString());
+        boton.setEnabled(!fila.ayuda.isEmpty());
+        boton.setToolTip(fila.ayuda.isEmpty() ? fila.titulo.toString() + u": disponible en una próxima versión"_s
+                                              : fila.ayuda.toString());
+        connect(&boton, &Boton::Click, this, [this, i] { Q_EMIT Pedida(static_cast<OrdenPaleta>(i)); });
+    }
+    auto& cerrar = Añadir<Boton>(u"SSCommand3"_s);
+    cerrar.setToolTip(u"Cerrar las herramientas"_s);
+    connect(&cerrar, &Boton::Click, this, &Form2::CierrePedido);
+}
+
+} // namespace valmerix

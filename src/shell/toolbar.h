@@ -1,0 +1,39 @@
+#pragma once
+
+#include "controls/window.h"
+
+namespace valmerix {
+
+/// The commands of the toolbar, by the index of their button.
+enum class OrdenPaleta {
+    Informe,
+    CerrarVisor,
+    Opciones,
+    Reinicio,
+    AbrirPorFiltros,
+    Guardar,
+    Importar,
+    Exportar,
+    Ayuda,
+    Extension,
+    Listados,
+    Testigos,
+};
+
+/// `Form2`: the floating toolbar beside the case window, twelve buttons `Botonera(0..11)`. The tags of
+/// `Image1` and `Image2` hold the kind's colours as "red,green,blue".
+class Form2 : public Ventana
+{
+    Q_OBJECT
+
+public:
+    /// `forma`: the name of the case window, which decides the colours of the title.
+    explicit Form2(const QString& forma);
+
+Q_SIGNALS:
+    void Pedida(valmerix::OrdenPaleta orden);
+    /// Its own close button.
+    void CierrePedido();
+};
+
+} // namespace valmerix
