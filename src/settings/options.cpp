@@ -15,7 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct FilaEdad {
+struct FilaEdad
+{
     QStringView control;
     QStringView columna;
     QStringView titulo;
@@ -29,7 +30,8 @@ constexpr std::array kEdades = {
     FilaEdad{u"Text3", u"EdadNaves", u"Naves (Industrial):", u" 35 años", 35},
 };
 
-struct FilaMoneda {
+struct FilaMoneda
+{
     QStringView control;
     QStringView columna;
     QStringView titulo;
@@ -44,12 +46,13 @@ constexpr std::array kMoneda = {
 };
 
 constexpr std::array<QStringView, 9> kEncabezamiento = {
-    u"Nombre Empresa",   u"Número/Fecha Inscripción", u"N.I.F. / C.I.F. Empresa",
-    u"Nombre Tasador",   u"Domicilio Tasador",        u"N.I.F. Tasador",
-    u"Titulación Tasador", u"Colegio Oficial",        u"Colegiado Nº",
+    u"Nombre Empresa",     u"Número/Fecha Inscripción", u"N.I.F. / C.I.F. Empresa",
+    u"Nombre Tasador",     u"Domicilio Tasador",        u"N.I.F. Tasador",
+    u"Titulación Tasador", u"Colegio Oficial",          u"Colegiado Nº",
 };
 
-struct FilaFuente {
+struct FilaFuente
+{
     QStringView control;
     QStringView titulo;
     FuenteImagen fuente;
@@ -85,8 +88,7 @@ Opciones::Opciones(EstadoCompartido& compartido, OpcionesPrograma& opciones, Sis
 void Opciones::CrearControles()
 {
     CrearEdades();
-    Añadir<CampoTexto>(u"TrayecBox"_s)
-        .setCaption(u"Trayectoria (Ruta de acceso al fichero \" *.exe \")"_s);
+    Añadir<CampoTexto>(u"TrayecBox"_s).setCaption(u"Trayectoria (Ruta de acceso al fichero \" *.exe \")"_s);
     Añadir<Boton>(u"cmdPath"_s).setCaption(u"Trayectoria"_s);
     Añadir<Casilla>(u"chkCerrar"_s)
         .setCaption(u"Cerrar Valmerix al abrir el procesador de texto para liberar memoria"_s);
@@ -225,9 +227,8 @@ QString Opciones::Sentencia() const
            texto(u"TrayecBox") + u"',CerrarAlSalir = "_s + (marcada(u"chkCerrar") ? u"'V'"_s : u"'F'"_s) +
            u",MonedaSingular = '"_s + texto(u"Text4") + u"',MonedaPlural= '"_s + texto(u"Text5") +
            u"',MonedaAbreviatura = '"_s + texto(u"Text6") + u"',MonedaDecimales = "_s + texto(u"Text7") +
-           u",MonedaGenero = "_s + (opciones(u"Genero").Value(0) ? u"'M'"_s : u"'F'"_s) +
-           u",Cabecera = '"_s + digitos + u"',Membrete = '"_s + (marcada(u"chkMembrete") ? u"S"_s : u"N"_s) +
-           u'\'';
+           u",MonedaGenero = "_s + (opciones(u"Genero").Value(0) ? u"'M'"_s : u"'F'"_s) + u",Cabecera = '"_s +
+           digitos + u"',Membrete = '"_s + (marcada(u"chkMembrete") ? u"S"_s : u"N"_s) + u'\'';
 }
 
 void Opciones::AlCerrar()

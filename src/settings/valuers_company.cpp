@@ -12,7 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct CampoFicha {
+struct CampoFicha
+{
     QStringView control;
     QStringView columna;
     QStringView titulo;
@@ -44,7 +45,8 @@ constexpr std::array kCamposEmpresa = {
 
 constexpr QStringView kFechaInscripcion = u"txtFechaInscripcion";
 
-struct BotonFicha {
+struct BotonFicha
+{
     QStringView control;
     QStringView titulo;
 };

@@ -55,7 +55,8 @@ void Aplicacion::InformarFallo(const std::exception& fallo)
 void Aplicacion::InstalarSiFalta()
 {
     const QString ruta = RutaBaseDatosConfigurada(puertos_.sistema);
-    // Only the program's own place is filled; a path of the ini file that leads nowhere is her mistake to see.
+    // Only the program's own place is filled; a path of the ini file that leads nowhere is her mistake to
+    // see.
     if (ruta == RutaBaseDatosPorDefecto(puertos_.sistema) && !QFileInfo::exists(ruta))
         InstalarBaseDatos(ruta);
     const QString plantilla = puertos_.sistema.carpetaPrograma() + u"/Datos/Testigos.mak"_s;
@@ -65,8 +66,7 @@ void Aplicacion::InstalarSiFalta()
 
 void Aplicacion::MostrarInicio()
 {
-    inicio_ =
-        std::make_unique<Form1>(compartido_, puertos_.reloj, puertos_.sistema, puertos_.pantalla);
+    inicio_ = std::make_unique<Form1>(compartido_, puertos_.reloj, puertos_.sistema, puertos_.pantalla);
     connect(inicio_.get(), &Form1::AbrirPedido, this, &Aplicacion::AbrirCaso);
     connect(inicio_.get(), &Form1::CopiarPedido, this, &Aplicacion::CopiarCaso);
     connect(inicio_.get(), &Form1::NuevoPedido, this, &Aplicacion::NuevoCaso);

@@ -22,7 +22,8 @@ class Visor;
 class VisorMin;
 
 /// The outside of the program, handed in once.
-struct Puertos {
+struct Puertos
+{
     Dialogos& dialogos;
     Reloj& reloj;
     Sistema& sistema;
@@ -32,7 +33,10 @@ struct Puertos {
 
 /// The program: owns the shared state and the windows, and joins them. One case window at a time stands
 /// open; a window that closes itself lives on until the next gesture, since its own event may be running.
-class Aplicacion : public QObject, public EntornoCaso, public EntornoMinimizado, public EntornoVisor,
+class Aplicacion : public QObject,
+                   public EntornoCaso,
+                   public EntornoMinimizado,
+                   public EntornoVisor,
                    public EntornoOpciones
 {
     Q_OBJECT

@@ -15,7 +15,8 @@ using Cargador = void (*)(CasoAbierto&, EstadoCompartido&, const QString&, const
 using Guardador = bool (*)(CasoAbierto&, EstadoCompartido&, Dialogos&);
 
 /// A kind of property: the letter of its cases, its window, its loader and its saver.
-struct FilaTipo {
+struct FilaTipo
+{
     QStringView letra;
     QStringView forma;
     Cargador cargar = nullptr;

@@ -14,16 +14,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct FilaCarpeta {
+struct FilaCarpeta
+{
     QStringView letra;
     QStringView texto;
     QStringView tabla;
 };
 
 constexpr std::array kCarpetas = {
-    FilaCarpeta{u"P", u"Pisos", u"Viviendas"},  FilaCarpeta{u"A", u"Apartamentos", u"Viviendas"},
-    FilaCarpeta{u"C", u"Casas", u"Viviendas"},  FilaCarpeta{u"L", u"Locales", u"Locales"},
-    FilaCarpeta{u"N", u"Naves", u"Naves"},      FilaCarpeta{u"T", u"Terrenos", u"Terrenos"},
+    FilaCarpeta{u"P", u"Pisos", u"Viviendas"}, FilaCarpeta{u"A", u"Apartamentos", u"Viviendas"},
+    FilaCarpeta{u"C", u"Casas", u"Viviendas"}, FilaCarpeta{u"L", u"Locales", u"Locales"},
+    FilaCarpeta{u"N", u"Naves", u"Naves"},     FilaCarpeta{u"T", u"Terrenos", u"Terrenos"},
 };
 
 QStringView TablaDe(const QString& letra)
@@ -64,15 +65,16 @@ QString RutaBaseDatosConfigurada(const Sistema& sistema)
                                               u"RutaAcceso"_s, RutaBaseDatosPorDefecto(sistema)));
 }
 
-std::optional<ConjuntoResultados> ArbolCasos::Busqueda(const EstadoCompartido& compartido, const QString& letra)
+std::optional<ConjuntoResultados> ArbolCasos::Busqueda(const EstadoCompartido& compartido,
+                                                       const QString& letra)
 {
     try {
         AccesoDatos::clsConsulta consulta(compartido);
         consulta.AbrirBaseDatosEmpresa(compartido.RutaBaseDatos);
         return consulta.Instantanea2(u"Empresa"_s,
                                      u"SELECT NombreTasador, NumeroTasacion, Tipo, Situacion, Municipio "_s +
-                                         u"FROM "_s + TablaDe(letra).toString() + u" WHERE Tipo = '"_s + letra +
-                                         u"' ORDER BY NombreTasador, NumeroTasacion"_s);
+                                         u"FROM "_s + TablaDe(letra).toString() + u" WHERE Tipo = '"_s +
+                                         letra + u"' ORDER BY NombreTasador, NumeroTasacion"_s);
     } catch (const ErrorAlmacen&) {
         return std::nullopt; // a folder that cannot be read stands empty; the start goes on to say why
     }

@@ -26,7 +26,8 @@ void CargarArbol(Arbol& arbol, EstadoCompartido& compartido, const Sistema& sist
 } // namespace ArbolCasos
 
 /// The parts of a leaf's key.
-struct ClaveCaso {
+struct ClaveCaso
+{
     QString NombreTasador;
     qint32 NumeroTasacion = 0;
     QString Tipo;

@@ -33,7 +33,8 @@ constexpr QStringView kAyuda =
     u"Escribe el texto del informe; con --rtf guarda además el informe con formato; con --estado escribe en\n"
     u"su lugar el formulario cargado y el estado del cálculo.\n";
 
-struct Encargo {
+struct Encargo
+{
     QString base;
     ClaveCaso caso;
     QString rtf;
@@ -76,18 +77,15 @@ public:
         compartido_.RutaBaseDatos = encargo.base;
         compartido_.SeparadorFecha = u"/"_s;
         LeerFormatoMoneda(compartido_);
-        forma_.emplace(*DescripcionDe(encargo.caso.Tipo.front()),
-                       ServiciosCaso{compartido_, calculo_, frases_, opciones_, dialogos_, reloj_, sistema_,
-                                     entorno_});
+        forma_.emplace(
+            *DescripcionDe(encargo.caso.Tipo.front()),
+            ServiciosCaso{compartido_, calculo_, frases_, opciones_, dialogos_, reloj_, sistema_, entorno_});
         forma_->Load();
     }
 
     void Cargar(const ClaveCaso& caso) { CargarCaso(*forma_, compartido_, caso); }
 
-    CasoInforme informe()
-    {
-        return {*forma_, forma_->nombre(), calculo_, frases_, opciones_, compartido_};
-    }
+    CasoInforme informe() { return {*forma_, forma_->nombre(), calculo_, frases_, opciones_, compartido_}; }
 
     QJsonObject enJson(const QStringList& negritas) const
     {
@@ -116,7 +114,8 @@ bool ExisteCaso(const Encargo& encargo)
     const std::optional<ConjuntoResultados> casos = ArbolCasos::Busqueda(compartido, encargo.caso.Tipo);
     for (qint32 fila = 1; casos && fila <= casos->RecordCount(); ++fila) {
         if (casos->Entero(u"NumeroTasacion", fila) == encargo.caso.NumeroTasacion &&
-            casos->Texto(u"NombreTasador", fila).compare(encargo.caso.NombreTasador, Qt::CaseInsensitive) == 0)
+            casos->Texto(u"NombreTasador", fila).compare(encargo.caso.NombreTasador, Qt::CaseInsensitive) ==
+                0)
             return true;
     }
     return false;

@@ -19,7 +19,8 @@ constexpr int kLetras = 8;
 constexpr int kCadaLetra = 60;      // ms
 constexpr int kEsperaTitulo = 4000; // ms
 
-struct BotonTipo {
+struct BotonTipo
+{
     QStringView etiqueta;
     QStringView titulo;
 };
@@ -30,7 +31,8 @@ constexpr std::array kTipos = {
     BotonTipo{u"Label7", u"Terreno"}, BotonTipo{u"Label8", u"Nave"},        BotonTipo{u"Label9", u"Local"},
 };
 
-constexpr std::array<QStringView, 5> kDetrasDelTitulo = {u"Picture1", u"SSPanel1", u"Arbol", u"cmdAbrir", u"cmdCopiar"};
+constexpr std::array<QStringView, 5> kDetrasDelTitulo = {u"Picture1", u"SSPanel1", u"Arbol", u"cmdAbrir",
+                                                         u"cmdCopiar"};
 
 QString Letra(int i)
 {
@@ -69,8 +71,8 @@ void Form1::CrearControles()
         letra.setVisible(false);
     }
     Añadir<Etiqueta>(u"Label2"_s).setCaption(u"Valoraciones                              Inmobiliarias"_s);
-    Añadir<Etiqueta>(u"Label3"_s).setCaption(
-        u"Versión " VALMERIX_VERSION ". Todos los derechos reservados."_s);
+    Añadir<Etiqueta>(u"Label3"_s)
+        .setCaption(u"Versión " VALMERIX_VERSION ". Todos los derechos reservados."_s);
     for (const auto& nombre : {u"Label2"_s, u"Label3"_s})
         control(nombre).setVisible(false);
     Añadir<Temporizador>(u"Timer1"_s).setInterval(kEsperaTitulo);
@@ -99,8 +101,7 @@ void Form1::ConectarControles()
     connect(&boton(u"cmdCopiar"), &Boton::Click, this,
             [this, &arbol] { Q_EMIT CopiarPedido(arbol.seleccion()); });
     for (int i = 0; i < static_cast<int>(kTipos.size()); ++i) {
-        connect(&boton(Indice(u"SSCommand2", i)), &Boton::Click, this,
-                [this, i] { Q_EMIT NuevoPedido(i); });
+        connect(&boton(Indice(u"SSCommand2", i)), &Boton::Click, this, [this, i] { Q_EMIT NuevoPedido(i); });
     }
     connect(&como<Temporizador>(u"Timer2"), &Temporizador::Timer, this, &Form1::TicPortada);
     connect(&como<Temporizador>(u"Timer1"), &Temporizador::Timer, this, &Form1::TerminarPortada);

@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 template <class T>
-struct Variable {
+struct Variable
+{
     QStringView nombre;
     T EstadoCalculo::*miembro;
 };
@@ -44,7 +45,8 @@ constexpr std::array kImportes = {
     Variable<Currency>{u"ValorUnitarioSuelo", &EstadoCalculo::ValorUnitarioSuelo},
 };
 
-struct VariableFrase {
+struct VariableFrase
+{
     QStringView nombre;
     QString FrasesInforme::*miembro;
 };

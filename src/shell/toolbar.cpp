@@ -8,7 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct FilaBoton {
+struct FilaBoton
+{
     QStringView titulo;
     QStringView ayuda; ///< empty while the command is still to come
 };
@@ -30,17 +31,16 @@ constexpr std::array kBotonera = {
 
 constexpr std::array<QStringView, 3> kGrupos = {u"Navegación", u"Datos", u"Sistema"};
 
-struct ColoresForma {
+struct ColoresForma
+{
     QStringView forma;
     QStringView image1;
     QStringView image2;
 };
 
 constexpr std::array kColores = {
-    ColoresForma{u"Piso", u"230,0,0", u"230,0,0"},
-    ColoresForma{u"Apto", u"255,0,130", u"0,255,230"},
-    ColoresForma{u"Casa", u"56,56,168", u"153,0,0"},
-    ColoresForma{u"Nave", u"245,205,110", u"180,100,0"},
+    ColoresForma{u"Piso", u"230,0,0", u"230,0,0"},     ColoresForma{u"Apto", u"255,0,130", u"0,255,230"},
+    ColoresForma{u"Casa", u"56,56,168", u"153,0,0"},   ColoresForma{u"Nave", u"245,205,110", u"180,100,0"},
     ColoresForma{u"Loca", u"200,255,0", u"200,255,0"},
 };
 
@@ -64,8 +64,9 @@ Form2::Form2(const QString& forma)
         auto& boton = Añadir<Boton>(Indice(u"Botonera", i));
         boton.setCaption(fila.titulo.toString());
         boton.setEnabled(!fila.ayuda.isEmpty());
-        boton.setToolTip(fila.ayuda.isEmpty() ? fila.titulo.toString() + u": disponible en una próxima versión"_s
-                                              : fila.ayuda.toString());
+        boton.setToolTip(fila.ayuda.isEmpty()
+                             ? fila.titulo.toString() + u": disponible en una próxima versión"_s
+                             : fila.ayuda.toString());
         connect(&boton, &Boton::Click, this, [this, i] { Q_EMIT Pedida(static_cast<OrdenPaleta>(i)); });
     }
     auto& cerrar = Añadir<Boton>(u"SSCommand3"_s);

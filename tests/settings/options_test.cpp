@@ -28,15 +28,12 @@ protected:
 
     std::unique_ptr<Opciones> Abrir()
     {
-        auto ventana = std::make_unique<Opciones>(entorno.compartido, entorno.opciones, entorno.sistema, *this,
-                                                  *this, pantalla);
+        auto ventana = std::make_unique<Opciones>(entorno.compartido, entorno.opciones, entorno.sistema,
+                                                  *this, *this, pantalla);
         ventana->Load();
         return ventana;
     }
-    QString Valor(const QString& columna)
-    {
-        return base.Leer(u"SELECT * FROM Opciones"_s).Texto(columna);
-    }
+    QString Valor(const QString& columna) { return base.Leer(u"SELECT * FROM Opciones"_s).Texto(columna); }
 
     EntornoDePrueba entorno;
     BaseDePrueba base;

@@ -216,25 +216,27 @@ TEST_F(FichaTest, TheStatementsAreTheSystemsOwn)
     QStringList textos;
     entorno.compartido.alEjecutarSQL = [&](QStringView, QStringView sql) { textos << sql.toString(); };
     ficha.ActualizarEmpresa();
-    EXPECT_EQ(textos, (QStringList{
-                          u"SELECT * FROM Empresa"_s,
-                          u"DELETE FROM Empresa"_s,
-                          u"INSERT INTO Empresa (Nombre) VALUES ('T')"_s,
-                          u"UPDATE Empresa SET Domicilio = '', Poblacion = '', CodigoPostal = '', Provincia = "
-                          u"'', NIF = '', NumeroInscripcion = '', FechaInscripcion = '  /  /    ' WHERE "
-                          u"Nombre = 'T'"_s,
-                      }));
+    EXPECT_EQ(textos,
+              (QStringList{
+                  u"SELECT * FROM Empresa"_s,
+                  u"DELETE FROM Empresa"_s,
+                  u"INSERT INTO Empresa (Nombre) VALUES ('T')"_s,
+                  u"UPDATE Empresa SET Domicilio = '', Poblacion = '', CodigoPostal = '', Provincia = "
+                  u"'', NIF = '', NumeroInscripcion = '', FechaInscripcion = '  /  /    ' WHERE "
+                  u"Nombre = 'T'"_s,
+              }));
     textos.clear();
     EscribirTasador(u"Pau"_s);
     ficha.ActualizarRegistro();
-    EXPECT_EQ(textos,
-              (QStringList{
-                  u"SELECT Nombre FROM Tasadores WHERE Nombre = 'Pau'"_s,
-                  u"INSERT INTO Tasadores (Nombre,Contador) VALUES ('Pau',0)"_s,
-                  u"UPDATE Tasadores SET Domicilio = '', Poblacion = 'Alcoi', CodigoPostal = '', Provincia = '', "
-                  u"NIF = '', Titulacion = '', ColegioOficial = '', ColegiadoNumero = '' WHERE Nombre = 'Pau'"_s,
-                  u"SELECT '' As Vacio, Nombre, Poblacion, Provincia FROM Tasadores ORDER BY Nombre"_s,
-              }));
+    EXPECT_EQ(
+        textos,
+        (QStringList{
+            u"SELECT Nombre FROM Tasadores WHERE Nombre = 'Pau'"_s,
+            u"INSERT INTO Tasadores (Nombre,Contador) VALUES ('Pau',0)"_s,
+            u"UPDATE Tasadores SET Domicilio = '', Poblacion = 'Alcoi', CodigoPostal = '', Provincia = '', "
+            u"NIF = '', Titulacion = '', ColegioOficial = '', ColegiadoNumero = '' WHERE Nombre = 'Pau'"_s,
+            u"SELECT '' As Vacio, Nombre, Poblacion, Provincia FROM Tasadores ORDER BY Nombre"_s,
+        }));
 }
 
 } // namespace

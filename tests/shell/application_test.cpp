@@ -193,8 +193,7 @@ TEST_F(AplicacionTest, ACopySavedGetsANewNumberAndLeavesTheSourceUntouched)
     Escribir(u"BoxSit", u"Calle Menor, 6"_s);
     aplicacion->EjecutarOrden(OrdenPaleta::Guardar);
     EXPECT_EQ(aplicacion->compartido().NumeroTasacionActual, 6);
-    const auto filas =
-        Leer(u"SELECT NumeroTasacion, Situacion FROM Viviendas ORDER BY NumeroTasacion"_s);
+    const auto filas = Leer(u"SELECT NumeroTasacion, Situacion FROM Viviendas ORDER BY NumeroTasacion"_s);
     ASSERT_EQ(filas.RecordCount(), 2);
     EXPECT_EQ(filas.Texto(u"Situacion", 1), u"Calle Mayor, 5"_s);
     EXPECT_EQ(filas.Texto(u"Situacion", 2), u"Calle Menor, 6"_s);

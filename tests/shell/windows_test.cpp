@@ -17,9 +17,10 @@ TEST(Salida, TextsAndButtonsAreTheSystems)
     SALIDA salida(sistema, pantalla);
     EXPECT_EQ(salida.Caption(), u"Fin de Valmerix"_s);
     EXPECT_EQ(salida.control(u"Label1").Caption(), u"¿Desea abandonar Valmerix?"_s);
-    EXPECT_EQ(salida.control(u"Label2").Caption(),
-              u"Pulse SI para dar por terminada esta sesión, pulse NO para cancelar esta orden y continuar la "
-              u"ejecución del programa."_s);
+    EXPECT_EQ(
+        salida.control(u"Label2").Caption(),
+        u"Pulse SI para dar por terminada esta sesión, pulse NO para cancelar esta orden y continuar la "
+        u"ejecución del programa."_s);
     EXPECT_EQ(salida.control(u"SSCommand1").Caption(), u"NO"_s);
     EXPECT_EQ(salida.control(u"SSCommand2").Caption(), u"SI"_s);
     salida.boton(u"SSCommand1").Pulsar();
