@@ -1,23 +1,12 @@
 #pragma once
 
 #include "support/fake_ports.h"
+#include "support/qt_printers.h"
 
 #include <initializer_list>
-#include <ostream>
 #include <utility>
 
-/// Readable failures.
-inline void PrintTo(const QString& texto, std::ostream* salida)
-{
-    *salida << '"' << texto.toStdString() << '"';
-}
-
 namespace valmerix {
-
-inline void PrintTo(Currency importe, std::ostream* salida)
-{
-    *salida << importe.decimal().toStdString();
-}
 
 inline EntornoDePrueba& ConSuperficieConstruida(EntornoDePrueba& entorno)
 {
