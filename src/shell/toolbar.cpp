@@ -17,7 +17,7 @@ struct FilaBoton
 constexpr std::array kBotonera = {
     FilaBoton{u"Informe", u"Redactar el informe de esta tasación"},
     FilaBoton{u"Cerrar visor", u"Cerrar el visor del informe"},
-    FilaBoton{u"Configuración", u"Edades, moneda, cabecera y procesador de textos"},
+    FilaBoton{u"Configuración", u""},
     FilaBoton{u"Reinicio", u"Volver al menú inicial"},
     FilaBoton{u"Abrir", u""},
     FilaBoton{u"Guardar", u"Guardar esta tasación"},
@@ -31,13 +31,6 @@ constexpr std::array kBotonera = {
 
 constexpr std::array<QStringView, 3> kGrupos = {u"Navegación", u"Datos", u"Sistema"};
 
-struct ColoresForma
-{
-    QStringView forma;
-    QStringView image1;
-    QStringView image2;
-};
-
 constexpr std::array kColores = {
     ColoresForma{u"Piso", u"230,0,0", u"230,0,0"},     ColoresForma{u"Apto", u"255,0,130", u"0,255,230"},
     ColoresForma{u"Casa", u"56,56,168", u"153,0,0"},   ColoresForma{u"Nave", u"245,205,110", u"180,100,0"},
@@ -46,17 +39,21 @@ constexpr std::array kColores = {
 
 } // namespace
 
+ColoresForma ColoresDe(QStringView forma)
+{
+    for (const ColoresForma& fila : kColores) {
+        if (fila.forma == forma)
+            return fila;
+    }
+    return {};
+}
+
 Form2::Form2(const QString& forma)
     : Ventana(u"Form2"_s, u"Herramientas"_s)
 {
-    Añadir<Imagen>(u"Image1"_s);
-    Añadir<Imagen>(u"Image2"_s);
-    for (const ColoresForma& fila : kColores) {
-        if (fila.forma == forma) {
-            control(u"Image1").setTag(fila.image1.toString());
-            control(u"Image2").setTag(fila.image2.toString());
-        }
-    }
+    const ColoresForma colores = ColoresDe(forma);
+    Añadir<Imagen>(u"Image1"_s).setTag(colores.image1.toString());
+    Añadir<Imagen>(u"Image2"_s).setTag(colores.image2.toString());
     for (int i = 0; i < static_cast<int>(kGrupos.size()); ++i)
         Añadir<Etiqueta>(Indice(u"Label1", i)).setCaption(kGrupos[static_cast<size_t>(i)].toString());
     for (int i = 0; i < static_cast<int>(kBotonera.size()); ++i) {

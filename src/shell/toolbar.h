@@ -20,6 +20,15 @@ enum class OrdenPaleta {
     Testigos,
 };
 
+/// The colours of a kind, each as "red,green,blue"; empty for a window that has none.
+struct ColoresForma
+{
+    QStringView forma;
+    QStringView image1;
+    QStringView image2;
+};
+ColoresForma ColoresDe(QStringView forma);
+
 /// `Form2`: the floating toolbar beside the case window, twelve buttons `Botonera(0..11)`. The tags of
 /// `Image1` and `Image2` hold the kind's colours as "red,green,blue".
 class Form2 : public Ventana

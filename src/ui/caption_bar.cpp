@@ -1,0 +1,134 @@
+#include "ui/caption_bar.h"
+
+#include "ui/application.h"
+#include "ui/icons.h"
+#include "ui/theme.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolButton>
+#include <QWindow>
+
+namespace valmerix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kAlto = 42;
+constexpr int kFranja = 5;
+constexpr int kIcono = 20;
+constexpr int kIconoTipo = 26;
+
+} // namespace
+
+QAbstractButton* CrearBotonIcono(Enlazador& enlazador, QStringView nombre, const QString& icono, QWidget* padre)
+{
+    Control& control = enlazador.ventana()->control(nombre);
+    auto* boton = new QToolButton(padre);
+    boton->setProperty("soloIcono", true);
+    boton->setAutoRaise(true);
+    boton->setIcon(Icono(icono));
+    boton->setIconSize(QSize(kIcono, kIcono));
+    boton->setFocusPolicy(Qt::ClickFocus);
+    enlazador.Atar(control, boton);
+    if (boton->accessibleName().isEmpty())
+        boton->setAccessibleName(control.ToolTip());
+    if (auto* orden = qobject_cast<Boton*>(&control)) {
+        QObject::connect(boton, &QToolButton::clicked, orden,
+                         [orden] { Protegido([&] { orden->Pulsar(); }); });
+    }
+    return boton;
+}
+
+CabeceraVentana::CabeceraVentana(Enlazador& enlazador, QStringView etiqueta, QWidget* padre)
+    : QWidget(padre)
+    , enlazador_(enlazador)
+    , fila_(new QHBoxLayout(this))
+    , icono_(new QLabel(this))
+    , titulo_(new QLabel(this))
+{
+    setFixedHeight(kAlto);
+    titulo_->setTextFormat(Qt::PlainText);
+    QFont letra = font();
+    letra.setBold(true);
+    titulo_->setFont(letra);
+    fila_->setContentsMargins(kFranja + medida::kBorde - 4, 0, medida::kEntreLineas, 0);
+    fila_->setSpacing(2);
+    icono_->hide();
+    fila_->addWidget(icono_);
+    fila_->addSpacing(medida::kEntreCampos);
+    fila_->addWidget(titulo_);
+    fila_->addStretch();
+    enlazador.Atar(enlazador.ventana()->control(etiqueta), titulo_);
+}
+
+QAbstractButton* CabeceraVentana::PonerBoton(QStringView nombre, const QString& icono)
+{
+    auto* boton = CrearBotonIcono(enlazador_, nombre, icono, this);
+    fila_->addWidget(boton);
+    return boton;
+}
+
+void CabeceraVentana::PonerHueco()
+{
+    fila_->addSpacing(medida::kBorde);
+}
+
+void CabeceraVentana::PonerColores(const QColor& uno, const QColor& otro)
+{
+    color1_ = uno;
+    color2_ = otro;
+    update();
+}
+
+void CabeceraVentana::PonerIcono(const QIcon& icono)
+{
+    icono_->setPixmap(icono.pixmap(QSize(kIconoTipo, kIconoTipo), devicePixelRatioF()));
+    icono_->show();
+}
+
+void CabeceraVentana::paintEvent(QPaintEvent* /*evento*/)
+{
+    QPainter pintor(this);
+    pintor.fillRect(rect(), ColorPanel(palette()));
+    pintor.setPen(ColorLinea(palette()));
+    pintor.drawLine(rect().bottomLeft(), rect().bottomRight());
+    if (!color1_.isValid())
+        return;
+    pintor.fillRect(0, 0, kFranja, kAlto / 2, color1_);
+    pintor.fillRect(0, kAlto / 2, kFranja, kAlto - kAlto / 2, color2_);
+}
+
+void CabeceraVentana::mousePressEvent(QMouseEvent* evento)
+{
+    if (evento->button() != Qt::LeftButton || window()->isMaximized())
+        return;
+    // The window system moves it where it can (nothing else may, under some); otherwise we do.
+    QWindow* ventana = window()->windowHandle();
+    if (ventana && ventana->startSystemMove())
+        return;
+    arrastrando_ = true;
+    agarre_ = evento->globalPosition().toPoint() - window()->pos();
+}
+
+void CabeceraVentana::mouseMoveEvent(QMouseEvent* evento)
+{
+    if (arrastrando_)
+        window()->move(evento->globalPosition().toPoint() - agarre_);
+}
+
+void CabeceraVentana::mouseReleaseEvent(QMouseEvent* /*evento*/)
+{
+    arrastrando_ = false;
+}
+
+void CabeceraVentana::mouseDoubleClickEvent(QMouseEvent* evento)
+{
+    if (evento->button() == Qt::LeftButton)
+        Q_EMIT DobleClic();
+}
+
+} // namespace valmerix

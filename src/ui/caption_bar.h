@@ -1,0 +1,57 @@
+#pragma once
+
+#include "ui/binder.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QAbstractButton;
+class QHBoxLayout;
+class QLabel;
+
+namespace valmerix {
+
+/// The caption bar of a frameless window: the text of a label control, the window's own buttons, and the
+/// place by which the window is dragged.
+class CabeceraVentana : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `etiqueta`: name of the control with the caption's text.
+    CabeceraVentana(Enlazador& enlazador, QStringView etiqueta, QWidget* padre);
+
+    /// A button at the right, behind those already there, that shows a picture only.
+    QAbstractButton* PonerBoton(QStringView nombre, const QString& icono);
+    /// A gap between the buttons.
+    void PonerHueco();
+    /// The colours of the kind, painted along the left edge.
+    void PonerColores(const QColor& uno, const QColor& otro);
+    void PonerIcono(const QIcon& icono);
+
+Q_SIGNALS:
+    void DobleClic();
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+    void mouseDoubleClickEvent(QMouseEvent* evento) override;
+
+private:
+    Enlazador& enlazador_;
+    QHBoxLayout* fila_;
+    QLabel* icono_;
+    QLabel* titulo_;
+    QColor color1_;
+    QColor color2_;
+    QPoint agarre_;
+    bool arrastrando_ = false;
+};
+
+/// A button that shows only a picture; the control's caption is read to who cannot see it.
+QAbstractButton* CrearBotonIcono(Enlazador& enlazador, QStringView nombre, const QString& icono,
+                                 QWidget* padre);
+
+} // namespace valmerix

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QStringView>
+
+namespace valmerix {
+
+/// Digits or letters that a field shows at least; a field that is not here is as wide as there is room.
+struct AnchoCampo
+{
+    QStringView nombre;
+    int letras = 0;
+};
+
+inline constexpr AnchoCampo kAnchos[] = {
+    {u"BoxFecha", 11},       {u"BoxCP", 8},           {u"BoxNIFSol", 14},       {u"BoxCPSol", 8},
+    {u"BoxTomo", 10},        {u"BoxLibro", 10},       {u"BoxFolio", 10},        {u"BoxFinca", 10},
+    {u"BoxInsc", 10},        {u"BoxAnot", 10},        {u"BoxDerecho", 11},      {u"BoxHecho", 11},
+    {u"BoxPorcen", 5},       {u"BoxPlantas", 5},      {u"BoxVPP", 5},           {u"BoxAscen", 5},
+    {u"BoxAntig", 5},        {u"BoxSot", 5},          {u"BoxTerrazas", 4},      {u"BoxAseos", 4},
+    {u"BoxBaños", 4},        {u"BoxDormitorios", 4},  {u"BoxOtros", 4},         {u"BoxOtros2", 4},
+    {u"BoxUtil", 10},        {u"BoxConst", 10},       {u"BoxK", 14},            {u"BoxProvisional", 14},
+    {u"BoxSolar", 14},       {u"BoxRepercusion", 14}, {u"BoxSobreRasante", 14}, {u"BoxCc", 14},
+    {u"BoxReposicion", 14},  {u"BoxTrastero", 13},    {u"BoxGaraje", 13},       {u"Text9", 13},
+    {u"BoxVr", 16},          {u"BoxVivienda", 16},    {u"BoxAnexos", 16},       {u"BoxTotal", 16},
+    {u"txtCodigoPostal", 8}, {u"txtFechaDesde", 11},  {u"txtFechaHasta", 11},   {u"txtSuperficieDesde", 9},
+    {u"txtSuperficieHasta", 9}, {u"txtImporteDesde", 11}, {u"txtImporteHasta", 11}, {u"txtEdadDesde", 5},
+    {u"txtEdadHasta", 5},
+};
+
+/// 0 for a field that takes all the room.
+constexpr int LetrasDe(QStringView nombre)
+{
+    for (const AnchoCampo& ancho : kAnchos) {
+        if (ancho.nombre == nombre)
+            return ancho.letras;
+    }
+    return 0;
+}
+
+} // namespace valmerix

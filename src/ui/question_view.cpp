@@ -1,0 +1,72 @@
+#include "ui/question_view.h"
+
+#include "ui/theme.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+
+namespace valmerix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kIcono = 40;
+constexpr int kAnchoTexto = 360;
+constexpr qreal kLetraTitulo = 1.25; // of the common size
+
+} // namespace
+
+VistaPregunta::VistaPregunta(Ventana& ventana)
+    : VistaVentana(ventana, Marco::Sistema)
+{
+    auto* icono = new QLabel(this);
+    icono->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxQuestion).pixmap(QSize(kIcono, kIcono)));
+    auto* pregunta = dynamic_cast<QLabel*>(enlazador().Crear(u"Label1", this));
+    QFont letra = pregunta->font();
+    letra.setBold(true);
+    letra.setPointSizeF(letra.pointSizeF() * kLetraTitulo);
+    pregunta->setFont(letra);
+    auto* explicacion = dynamic_cast<QLabel*>(enlazador().Crear(u"Label2", this));
+    explicacion->setWordWrap(true);
+    explicacion->setMinimumWidth(kAnchoTexto);
+
+    auto* textos = new QVBoxLayout;
+    textos->setSpacing(medida::kEntreLineas + 2);
+    textos->addWidget(pregunta);
+    textos->addWidget(explicacion);
+    textos->addStretch();
+    auto* arriba = new QHBoxLayout;
+    arriba->setSpacing(medida::kBorde);
+    arriba->addWidget(icono, 0, Qt::AlignTop);
+    arriba->addLayout(textos, 1);
+    auto* botones = new QHBoxLayout;
+    botones->addStretch();
+    std::vector<Control*> pulsables;
+    for (const QStringView nombre : {u"SSCommand1", u"SSCommand2"}) {
+        botones->addWidget(enlazador().Crear(nombre, this));
+        pulsables.push_back(&ventana.control(nombre));
+    }
+    RepartirMnemonicos(enlazador(), pulsables);
+    auto* todo = new QVBoxLayout(this);
+    todo->setContentsMargins(medida::kBorde + 4, medida::kBorde + 4, medida::kBorde + 4, medida::kBorde);
+    todo->setSpacing(medida::kBorde);
+    todo->addLayout(arriba);
+    todo->addLayout(botones);
+}
+
+void VistaPregunta::keyPressEvent(QKeyEvent* evento)
+{
+    if (evento->key() == Qt::Key_Escape)
+        close();
+    else if (auto* boton = qobject_cast<QPushButton*>(focusWidget());
+             boton && (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter))
+        boton->click();
+    else
+        VistaVentana::keyPressEvent(evento);
+}
+
+} // namespace valmerix

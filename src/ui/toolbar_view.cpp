@@ -1,0 +1,174 @@
+#include "ui/toolbar_view.h"
+
+#include "ui/application.h"
+#include "ui/caption_bar.h"
+#include "ui/icons.h"
+#include "ui/theme.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolButton>
+#include <QWindow>
+
+namespace valmerix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kAltoTitulo = 42;
+constexpr int kIcono = 22;
+constexpr int kAnchoOrden = 152;
+
+// Pictures by the index of Botonera.
+constexpr QStringView kIconos[] = {
+    u"informe",  u"cerrar_visor", u"opciones", u"reinicio",  u"abrir_filtros", u"guardar",
+    u"importar", u"exportar",     u"ayuda",    u"extension", u"listados",      u"testigos",
+};
+
+struct GrupoOrdenes
+{
+    QStringView titulo;
+    std::initializer_list<int> ordenes;
+};
+
+const GrupoOrdenes kGrupos[] = {
+    {u"Navegación", {0, 1, 3, 4}},
+    {u"Datos", {5, 6, 7, 11, 10}},
+    {u"Sistema", {2, 9, 8}},
+};
+
+// "red,green,blue", as the window leaves it with its title pictures.
+QColor ColorDe(const QString& etiqueta)
+{
+    const QStringList partes = etiqueta.split(u',');
+    if (partes.size() != 3)
+        return {};
+    return QColor(partes[0].toInt(), partes[1].toInt(), partes[2].toInt());
+}
+
+/// The title picture: a field of the kind's colours.
+class Franja : public QWidget
+{
+public:
+    Franja(const QColor& uno, const QColor& otro, QWidget* padre)
+        : QWidget(padre)
+        , uno_(uno)
+        , otro_(otro)
+    {
+        setFixedHeight(kAltoTitulo);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*evento*/) override
+    {
+        QPainter pintor(this);
+        if (!uno_.isValid())
+            return pintor.fillRect(rect(), ColorPanel(palette()));
+        QLinearGradient mezcla(rect().topLeft(), rect().topRight());
+        mezcla.setColorAt(0, uno_);
+        mezcla.setColorAt(1, otro_);
+        pintor.fillRect(rect(), mezcla);
+    }
+
+private:
+    QColor uno_;
+    QColor otro_;
+};
+
+} // namespace
+
+VistaPaleta::VistaPaleta(Ventana& ventana)
+    : VistaVentana(ventana, Marco::Herramienta)
+{
+    auto* todo = new QVBoxLayout(this);
+    todo->setContentsMargins(1, 1, 1, medida::kBorde);
+    todo->setSpacing(0);
+    todo->addWidget(Titulo());
+    int grupo = 0;
+    for (const GrupoOrdenes& g : kGrupos) {
+        const QString nombre = Ventana::Indice(u"Label1", grupo++);
+        auto* rotulo = qobject_cast<QLabel*>(ventana.buscar(nombre) ? enlazador().Crear(nombre, this)
+                                                                    : new QLabel(g.titulo.toString(), this));
+        QFont letra = rotulo->font();
+        letra.setBold(true);
+        rotulo->setFont(letra);
+        rotulo->setContentsMargins(medida::kBorde, medida::kBorde, 0, medida::kEntreLineas / 2);
+        todo->addWidget(rotulo);
+        for (const int orden : g.ordenes)
+            todo->addWidget(CrearOrden(orden));
+    }
+    todo->addStretch();
+}
+
+QWidget* VistaPaleta::Titulo()
+{
+    const QColor uno = ColorDe(ventana()->control(u"Image1").Tag());
+    auto* franja = new Franja(uno, ColorDe(ventana()->control(u"Image2").Tag()), this);
+    auto* fila = new QHBoxLayout(franja);
+    fila->setContentsMargins(medida::kBorde, 0, medida::kEntreLineas, 0);
+    auto* titulo = new QLabel(ventana()->Caption(), franja);
+    QFont letra = titulo->font();
+    letra.setBold(true);
+    titulo->setFont(letra);
+    auto* cerrar = qobject_cast<QToolButton*>(CrearBotonIcono(enlazador(), u"SSCommand3", u"salir"_s, franja));
+    cerrar->setFocusPolicy(Qt::NoFocus);
+    if (uno.isValid()) {
+        QPalette paleta;
+        paleta.setColor(QPalette::WindowText, TextoSobre(uno));
+        titulo->setPalette(paleta);
+        cerrar->setIcon(Icono(u"salir"_s, TextoSobre(ColorDe(ventana()->control(u"Image2").Tag()))));
+    }
+    fila->addWidget(titulo);
+    fila->addStretch();
+    fila->addWidget(cerrar);
+    return franja;
+}
+
+QWidget* VistaPaleta::CrearOrden(int indice)
+{
+    auto& orden = ventana()->boton(Ventana::Indice(u"Botonera", indice));
+    auto* boton = new QToolButton(this);
+    boton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    boton->setIcon(Icono(kIconos[indice].toString()));
+    boton->setIconSize(QSize(kIcono, kIcono));
+    boton->setAutoRaise(true);
+    boton->setFocusPolicy(Qt::NoFocus);
+    boton->setFixedWidth(kAnchoOrden);
+    enlazador().Atar(orden, boton);
+    connect(boton, &QToolButton::clicked, &orden, [&orden] { Protegido([&] { orden.Pulsar(); }); });
+    return boton;
+}
+
+void VistaPaleta::paintEvent(QPaintEvent* /*evento*/)
+{
+    QPainter pintor(this);
+    pintor.fillRect(rect(), ColorPanel(palette()));
+    pintor.setPen(ColorLinea(palette()));
+    pintor.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void VistaPaleta::mousePressEvent(QMouseEvent* evento)
+{
+    if (evento->button() != Qt::LeftButton || evento->position().y() > kAltoTitulo)
+        return;
+    if (windowHandle() && windowHandle()->startSystemMove())
+        return;
+    arrastrando_ = true;
+    agarre_ = evento->globalPosition().toPoint() - pos();
+}
+
+void VistaPaleta::mouseMoveEvent(QMouseEvent* evento)
+{
+    if (arrastrando_)
+        move(evento->globalPosition().toPoint() - agarre_);
+}
+
+void VistaPaleta::mouseReleaseEvent(QMouseEvent* /*evento*/)
+{
+    arrastrando_ = false;
+}
+
+} // namespace valmerix

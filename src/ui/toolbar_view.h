@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ui/window_view.h"
+
+namespace valmerix {
+
+/// The toolbar beside the case window: twelve buttons in three groups, under a title in the kind's colours.
+class VistaPaleta : public VistaVentana
+{
+    Q_OBJECT
+
+public:
+    explicit VistaPaleta(Ventana& ventana);
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+
+private:
+    QWidget* Titulo();
+    QWidget* CrearOrden(int indice);
+
+    QPoint agarre_;
+    bool arrastrando_ = false;
+};
+
+} // namespace valmerix
