@@ -1,9 +1,7 @@
 #include "ui/style.h"
 
-#include "ui/theme.h"
-
-#include <QPainter>
-#include <QStyleOption>
+#include "ui/icons.h"
+#include "ui/style_painting.h"
 
 namespace valmerix {
 
@@ -12,139 +10,31 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kCasilla = 16;
-constexpr int kMargenBoton = 14;
+constexpr int kMargenBoton = 12;
+constexpr int kMargenCampo = 3; // more than Fusion leaves beside a field's text
+constexpr int kAltoSolapa = 34;
+constexpr int kAnchoSolapa = 10; // more than Fusion leaves beside a tab's text
 
-class Pincel
+bool EsPlano(const QStyleOption& o)
 {
-public:
-    explicit Pincel(QPainter* pintor)
-        : pintor_(pintor)
-    {
-        pintor_->save();
-        pintor_->setRenderHint(QPainter::Antialiasing);
-    }
-    Pincel(const Pincel&) = delete;
-    Pincel& operator=(const Pincel&) = delete;
-    ~Pincel() { pintor_->restore(); }
+    const auto* boton = qstyleoption_cast<const QStyleOptionButton*>(&o);
+    return boton && boton->features.testFlag(QStyleOptionButton::Flat) &&
+           !o.state.testAnyFlags(QStyle::State_MouseOver | QStyle::State_Sunken | QStyle::State_On);
+}
 
-private:
-    QPainter* pintor_;
+struct IconoDeCaja
+{
+    QStyle::StandardPixmap cual;
+    QStringView icono;
+    QRgb color;
 };
 
-QRectF AlPixel(const QRect& r)
-{
-    return QRectF(r).adjusted(0.5, 0.5, -0.5, -0.5);
-}
-
-bool Con(const QStyleOption* o, QStyle::StateFlag estado)
-{
-    return o->state.testFlag(estado);
-}
-
-QColor LineaDeCampo(const QStyleOption* o)
-{
-    if (Con(o, QStyle::State_Enabled) && Con(o, QStyle::State_HasFocus))
-        return o->palette.color(QPalette::Active, QPalette::Highlight);
-    const QColor linea = o->palette.color(QPalette::Active, QPalette::Mid);
-    return Con(o, QStyle::State_Enabled) ? linea : ColorLinea(o->palette);
-}
-
-void PintarCampo(const QStyleOption* o, QPainter* p)
-{
-    const Pincel pincel(p);
-    p->setPen(QPen(LineaDeCampo(o), 1));
-    p->setBrush(o->palette.color(QPalette::Base));
-    p->drawRoundedRect(AlPixel(o->rect), medida::kRadio - 1, medida::kRadio - 1);
-}
-
-QColor FondoDeBoton(const QStyleOption* o, bool principal)
-{
-    QColor fondo = o->palette.color(principal ? QPalette::Highlight : QPalette::Button);
-    if (!Con(o, QStyle::State_Enabled))
-        return o->palette.color(QPalette::Active, QPalette::Midlight);
-    if (Con(o, QStyle::State_Sunken) || Con(o, QStyle::State_On))
-        return fondo.darker(115);
-    return Con(o, QStyle::State_MouseOver) ? fondo.lighter(106) : fondo;
-}
-
-void PintarBoton(const QStyleOption* o, QPainter* p)
-{
-    const auto* boton = qstyleoption_cast<const QStyleOptionButton*>(o);
-    const bool principal = boton && boton->features.testFlag(QStyleOptionButton::DefaultButton);
-    const bool plano = boton && boton->features.testFlag(QStyleOptionButton::Flat);
-    if (plano && !Con(o, QStyle::State_MouseOver) && !Con(o, QStyle::State_Sunken) &&
-        !Con(o, QStyle::State_On))
-        return;
-    const Pincel pincel(p);
-    p->setPen(QPen(principal ? FondoDeBoton(o, true) : LineaDeCampo(o), 1));
-    p->setBrush(FondoDeBoton(o, principal));
-    p->drawRoundedRect(AlPixel(o->rect), medida::kRadio, medida::kRadio);
-}
-
-struct ColoresDeMarca
-{
-    QColor linea;
-    QColor fondo;
-    QColor marca;
+constexpr IconoDeCaja kIconosDeCaja[] = {
+    {QStyle::SP_MessageBoxInformation, u"informacion", 0xFF2F7BCB},
+    {QStyle::SP_MessageBoxQuestion, u"ayuda", 0xFF2F7BCB},
+    {QStyle::SP_MessageBoxWarning, u"aviso", 0xFFC98A00},
+    {QStyle::SP_MessageBoxCritical, u"critico", 0xFFD0342C},
 };
-
-ColoresDeMarca MarcaDe(const QStyleOption* o, bool puesta)
-{
-    const QPalette& c = o->palette;
-    if (!Con(o, QStyle::State_Enabled))
-        return {ColorLinea(c), c.color(QPalette::Active, QPalette::Window),
-                c.color(QPalette::Disabled, QPalette::Text)};
-    const QColor acento = c.color(QPalette::Active, QPalette::Highlight);
-    if (puesta)
-        return {acento, acento, c.color(QPalette::Active, QPalette::HighlightedText)};
-    const bool viva = Con(o, QStyle::State_HasFocus) || Con(o, QStyle::State_MouseOver);
-    return {viva ? acento : c.color(QPalette::Active, QPalette::Mid).darker(EsOscura(c) ? 80 : 118),
-            c.color(QPalette::Active, QPalette::Base), acento};
-}
-
-void PintarCasilla(const QStyleOption* o, QPainter* p)
-{
-    const bool puesta = Con(o, QStyle::State_On);
-    const ColoresDeMarca colores = MarcaDe(o, puesta);
-    const Pincel pincel(p);
-    p->setPen(QPen(colores.linea, 1));
-    p->setBrush(colores.fondo);
-    const QRectF r = AlPixel(o->rect);
-    p->drawRoundedRect(r, 3, 3);
-    if (!puesta)
-        return;
-    p->setPen(QPen(colores.marca, r.width() / 7.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    p->setBrush(Qt::NoBrush);
-    const auto punto = [&](qreal x, qreal y) {
-        return QPointF(r.x() + x * r.width(), r.y() + y * r.height());
-    };
-    p->drawPolyline(QPolygonF{punto(0.24, 0.52), punto(0.43, 0.71), punto(0.77, 0.32)});
-}
-
-void PintarRedonda(const QStyleOption* o, QPainter* p)
-{
-    const bool puesta = Con(o, QStyle::State_On);
-    const ColoresDeMarca colores = MarcaDe(o, puesta);
-    const Pincel pincel(p);
-    p->setPen(QPen(colores.linea, 1));
-    p->setBrush(colores.fondo);
-    const QRectF r = AlPixel(o->rect);
-    p->drawEllipse(r);
-    if (!puesta)
-        return;
-    p->setPen(Qt::NoPen);
-    p->setBrush(colores.marca);
-    p->drawEllipse(r.center(), r.width() / 4.6, r.height() / 4.6);
-}
-
-void PintarFoco(const QStyleOption* o, QPainter* p)
-{
-    const Pincel pincel(p);
-    QColor acento = o->palette.color(QPalette::Active, QPalette::Highlight);
-    p->setPen(QPen(acento, 1, Qt::DotLine));
-    p->setBrush(Qt::NoBrush);
-    p->drawRoundedRect(AlPixel(o->rect), 3, 3);
-}
 
 } // namespace
 
@@ -160,22 +50,78 @@ void EstiloValmerix::drawPrimitive(PrimitiveElement elemento, const QStyleOption
     case PE_PanelLineEdit:
         if (const auto* marco = qstyleoption_cast<const QStyleOptionFrame*>(opcion);
             marco && marco->lineWidth > 0)
-            return PintarCampo(opcion, pintor);
+            return pintura::Campo(*opcion, *pintor);
         break;
     case PE_FrameLineEdit:
-        return PintarCampo(opcion, pintor);
+        return pintura::Campo(*opcion, *pintor);
+    case PE_Frame:
+        return pintura::Marco(*opcion, *pintor);
     case PE_PanelButtonCommand:
-        return PintarBoton(opcion, pintor);
+        return EsPlano(*opcion) ? void() : pintura::Boton(*opcion, *pintor);
     case PE_IndicatorCheckBox:
-        return PintarCasilla(opcion, pintor);
+    case PE_IndicatorItemViewItemCheck:
+        return pintura::Casilla(*opcion, *pintor);
     case PE_IndicatorRadioButton:
-        return PintarRedonda(opcion, pintor);
+        return pintura::Redonda(*opcion, *pintor);
     case PE_FrameFocusRect:
-        return PintarFoco(opcion, pintor);
+        return pintura::Foco(*opcion, *pintor);
+    case PE_FrameTabBarBase:
+        return pintura::BaseSolapas(*opcion, *pintor);
     default:
         break;
     }
     QProxyStyle::drawPrimitive(elemento, opcion, pintor, widget);
+}
+
+void EstiloValmerix::drawControl(ControlElement elemento, const QStyleOption* opcion, QPainter* pintor,
+                                 const QWidget* widget) const
+{
+    if (elemento == CE_HeaderSection)
+        return pintura::CabeceraTabla(*opcion, *pintor);
+    if (elemento == CE_TabBarTabShape) {
+        if (const auto* solapa = qstyleoption_cast<const QStyleOptionTab*>(opcion))
+            return pintura::Solapa(*solapa, *pintor);
+    }
+    const auto* boton = qstyleoption_cast<const QStyleOptionButton*>(opcion);
+    if (elemento == CE_PushButtonLabel && boton &&
+        boton->features.testFlag(QStyleOptionButton::DefaultButton)) {
+        QStyleOptionButton principal(*boton);
+        for (const auto grupo : {QPalette::Active, QPalette::Inactive}) {
+            principal.palette.setColor(grupo, QPalette::ButtonText,
+                                       boton->palette.color(grupo, QPalette::HighlightedText));
+        }
+        return QProxyStyle::drawControl(elemento, &principal, pintor, widget);
+    }
+    QProxyStyle::drawControl(elemento, opcion, pintor, widget);
+}
+
+void EstiloValmerix::drawComplexControl(ComplexControl control, const QStyleOptionComplex* opcion,
+                                        QPainter* pintor, const QWidget* widget) const
+{
+    const auto* lista = qstyleoption_cast<const QStyleOptionComboBox*>(opcion);
+    if (control == CC_ComboBox && lista && lista->frame) {
+        const QRect flecha = subControlRect(CC_ComboBox, opcion, SC_ComboBoxArrow, widget);
+        return pintura::Desplegable(*lista, *pintor, flecha);
+    }
+    QProxyStyle::drawComplexControl(control, opcion, pintor, widget);
+}
+
+QRect EstiloValmerix::subElementRect(SubElement elemento, const QStyleOption* opcion,
+                                     const QWidget* widget) const
+{
+    const QRect propio = QProxyStyle::subElementRect(elemento, opcion, widget);
+    if (elemento != SE_LineEditContents)
+        return propio;
+    return propio.adjusted(kMargenCampo, 0, -kMargenCampo, 0);
+}
+
+QSize EstiloValmerix::sizeFromContents(ContentsType tipo, const QStyleOption* opcion, const QSize& contenido,
+                                       const QWidget* widget) const
+{
+    QSize propio = QProxyStyle::sizeFromContents(tipo, opcion, contenido, widget);
+    if (tipo == CT_TabBarTab)
+        propio = QSize(propio.width() + kAnchoSolapa, std::max(propio.height(), kAltoSolapa));
+    return propio;
 }
 
 int EstiloValmerix::pixelMetric(PixelMetric medida, const QStyleOption* opcion, const QWidget* widget) const
@@ -188,6 +134,9 @@ int EstiloValmerix::pixelMetric(PixelMetric medida, const QStyleOption* opcion, 
         return kCasilla;
     case PM_ButtonMargin:
         return kMargenBoton;
+    case PM_TabBarTabOverlap:
+    case PM_TabBarTabShiftVertical:
+        return 0;
     default:
         return QProxyStyle::pixelMetric(medida, opcion, widget);
     }
@@ -204,6 +153,16 @@ int EstiloValmerix::styleHint(StyleHint pista, const QStyleOption* opcion, const
     default:
         return QProxyStyle::styleHint(pista, opcion, widget, respuesta);
     }
+}
+
+QIcon EstiloValmerix::standardIcon(StandardPixmap cual, const QStyleOption* opcion,
+                                   const QWidget* widget) const
+{
+    for (const IconoDeCaja& caja : kIconosDeCaja) {
+        if (caja.cual == cual)
+            return Icono(caja.icono.toString(), QColor::fromRgb(caja.color));
+    }
+    return QProxyStyle::standardIcon(cual, opcion, widget);
 }
 
 } // namespace valmerix
