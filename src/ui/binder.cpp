@@ -87,8 +87,10 @@ void Enlazador::Atar(Control& control, QWidget* widget)
 {
     widgets_.insert(&control, widget);
     widget->setObjectName(control.nombre());
-    connect(&control, &Control::PresentacionCambiada, widget,
-            [this, &control, widget] { Mostrar(control, *widget); });
+    connect(&control, &Control::PresentacionCambiada, this, [this, &control, vivo = QPointer(widget)] {
+        if (vivo)
+            Mostrar(control, *vivo);
+    });
     Mostrar(control, *widget);
     AtarFoco(control, widget);
     if (auto* grupo = qobject_cast<GrupoBotones*>(widget)) {
@@ -101,6 +103,12 @@ void Enlazador::Atar(Control& control, QWidget* widget)
     }
     if (auto* solapas = qobject_cast<QTabWidget*>(widget))
         AtarFoco(control, solapas->tabBar());
+}
+
+void Enlazador::AtarBoton(Boton& boton, QAbstractButton* widget)
+{
+    Atar(boton, widget);
+    connect(widget, &QAbstractButton::clicked, &boton, [&boton] { Protegido([&] { boton.Pulsar(); }); });
 }
 
 void Enlazador::AtarFoco(Control& control, QWidget* widget)
@@ -142,12 +150,14 @@ QLabel* Enlazador::CrearEtiqueta(QStringView nombre, QWidget* padre)
     auto* etiqueta = new QLabel(padre);
     etiqueta->setTextFormat(Qt::PlainText);
     etiqueta->setBuddy(de(&control));
-    const auto mostrar = [this, &control, etiqueta] {
-        etiqueta->setText(ConMnemonico(control.Caption(), mnemonicos_.value(&control)));
-        etiqueta->setVisible(control.Visible() && !control.Caption().isEmpty());
-        etiqueta->setEnabled(control.Enabled());
+    const auto mostrar = [this, &control, viva = QPointer(etiqueta)] {
+        if (!viva)
+            return;
+        viva->setText(ConMnemonico(control.Caption(), mnemonicos_.value(&control)));
+        viva->setVisible(control.Visible() && !control.Caption().isEmpty());
+        viva->setEnabled(control.Enabled());
     };
-    connect(&control, &Control::PresentacionCambiada, etiqueta, mostrar);
+    connect(&control, &Control::PresentacionCambiada, this, mostrar);
     mostrar();
     return etiqueta;
 }

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPointer>
 
+class QAbstractButton;
 class QLabel;
 class QWidget;
 
@@ -35,6 +36,8 @@ public:
 
     /// Ties what every control has to a widget that the view has made and filled itself.
     void Atar(Control& control, QWidget* widget);
+    /// The same for a button of another make than the common one, whose clicks are the control's.
+    void AtarBoton(Boton& boton, QAbstractButton* widget);
     /// The widget of a control, null when the view has none for it.
     QWidget* de(const Control* control) const { return widgets_.value(control); }
     QWidget* de(QStringView nombre) const;

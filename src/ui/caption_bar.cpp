@@ -1,15 +1,14 @@
 #include "ui/caption_bar.h"
 
-#include "ui/application.h"
 #include "ui/icons.h"
 #include "ui/theme.h"
+#include "ui/window_drag.h"
 
 #include <QBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolButton>
-#include <QWindow>
 
 namespace valmerix {
 
@@ -24,22 +23,19 @@ constexpr int kIconoTipo = 26;
 
 } // namespace
 
-QAbstractButton* CrearBotonIcono(Enlazador& enlazador, QStringView nombre, const QString& icono, QWidget* padre)
+QAbstractButton* CrearBotonIcono(Enlazador& enlazador, QStringView nombre, const QString& icono,
+                                 QWidget* padre)
 {
-    Control& control = enlazador.ventana()->control(nombre);
+    Boton& orden = enlazador.ventana()->boton(nombre);
     auto* boton = new QToolButton(padre);
     boton->setProperty("soloIcono", true);
     boton->setAutoRaise(true);
     boton->setIcon(Icono(icono));
     boton->setIconSize(QSize(kIcono, kIcono));
     boton->setFocusPolicy(Qt::ClickFocus);
-    enlazador.Atar(control, boton);
+    enlazador.AtarBoton(orden, boton);
     if (boton->accessibleName().isEmpty())
-        boton->setAccessibleName(control.ToolTip());
-    if (auto* orden = qobject_cast<Boton*>(&control)) {
-        QObject::connect(boton, &QToolButton::clicked, orden,
-                         [orden] { Protegido([&] { orden->Pulsar(); }); });
-    }
+        boton->setAccessibleName(orden.ToolTip());
     return boton;
 }
 
@@ -63,6 +59,7 @@ CabeceraVentana::CabeceraVentana(Enlazador& enlazador, QStringView etiqueta, QWi
     fila_->addWidget(titulo_);
     fila_->addStretch();
     enlazador.Atar(enlazador.ventana()->control(etiqueta), titulo_);
+    ArrastrarPor(*this);
 }
 
 QAbstractButton* CabeceraVentana::PonerBoton(QStringView nombre, const QString& icono)
@@ -100,29 +97,6 @@ void CabeceraVentana::paintEvent(QPaintEvent* /*evento*/)
         return;
     pintor.fillRect(0, 0, kFranja, kAlto / 2, color1_);
     pintor.fillRect(0, kAlto / 2, kFranja, kAlto - kAlto / 2, color2_);
-}
-
-void CabeceraVentana::mousePressEvent(QMouseEvent* evento)
-{
-    if (evento->button() != Qt::LeftButton || window()->isMaximized())
-        return;
-    // The window system moves it where it can (nothing else may, under some); otherwise we do.
-    QWindow* ventana = window()->windowHandle();
-    if (ventana && ventana->startSystemMove())
-        return;
-    arrastrando_ = true;
-    agarre_ = evento->globalPosition().toPoint() - window()->pos();
-}
-
-void CabeceraVentana::mouseMoveEvent(QMouseEvent* evento)
-{
-    if (arrastrando_)
-        window()->move(evento->globalPosition().toPoint() - agarre_);
-}
-
-void CabeceraVentana::mouseReleaseEvent(QMouseEvent* /*evento*/)
-{
-    arrastrando_ = false;
 }
 
 void CabeceraVentana::mouseDoubleClickEvent(QMouseEvent* evento)

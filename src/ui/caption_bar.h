@@ -34,9 +34,6 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* evento) override;
-    void mousePressEvent(QMouseEvent* evento) override;
-    void mouseMoveEvent(QMouseEvent* evento) override;
-    void mouseReleaseEvent(QMouseEvent* evento) override;
     void mouseDoubleClickEvent(QMouseEvent* evento) override;
 
 private:
@@ -46,8 +43,6 @@ private:
     QLabel* titulo_;
     QColor color1_;
     QColor color2_;
-    QPoint agarre_;
-    bool arrastrando_ = false;
 };
 
 /// A button that shows only a picture; the control's caption is read to who cannot see it.

@@ -3,8 +3,8 @@
 #include "ui/application.h"
 #include "ui/theme.h"
 
+#include <QBoxLayout>
 #include <QButtonGroup>
-#include <QGridLayout>
 
 namespace valmerix {
 
@@ -12,11 +12,10 @@ GrupoBotones::GrupoBotones(GrupoOpciones& opciones, QWidget* padre)
     : QWidget(padre)
     , opciones_(&opciones)
     , grupo_(new QButtonGroup(this))
-    , disposicion_(new QGridLayout(this))
+    , disposicion_(new QVBoxLayout(this))
 {
     disposicion_->setContentsMargins(0, 0, 0, 0);
-    disposicion_->setHorizontalSpacing(medida::kEntreCampos);
-    disposicion_->setVerticalSpacing(medida::kEntreLineas);
+    disposicion_->setSpacing(medida::kEntreLineas);
     connect(&opciones, &Control::PresentacionCambiada, this, &GrupoBotones::Mostrar);
     Rehacer();
     Mostrar();
@@ -25,41 +24,35 @@ GrupoBotones::GrupoBotones(GrupoOpciones& opciones, QWidget* padre)
 void GrupoBotones::Rehacer()
 {
     qDeleteAll(botones_);
+    qDeleteAll(lineas_);
     botones_.clear();
+    lineas_.clear();
     for (int i = 0; i < opciones_->Count(); ++i) {
         auto* boton = new QRadioButton(this);
         boton->setObjectName(opciones_->nombre() + u'(' + QString::number(i) + u')');
         grupo_->addButton(boton, i);
         botones_.push_back(boton);
+        auto* linea = new QHBoxLayout;
+        linea->setSpacing(medida::kEntreCampos);
+        linea->addWidget(boton);
+        linea->addStretch();
+        disposicion_->addLayout(linea);
+        lineas_.push_back(linea);
         connect(boton, &QRadioButton::clicked, this, [this, i] {
             if (opciones_)
                 Protegido([&] { opciones_->Pulsar(i); });
             Mostrar();
         });
     }
-    Colocar();
     Q_EMIT BotonesCambiados();
-}
-
-void GrupoBotones::Colocar()
-{
-    for (int i = 0; i < cuenta(); ++i)
-        disposicion_->addWidget(boton(i), i / columnas_, columnas_ == 1 ? 0 : i % columnas_);
-    if (columnas_ == 1)
-        disposicion_->setColumnStretch(1, 1);
-}
-
-void GrupoBotones::setColumnas(int columnas)
-{
-    columnas_ = std::max(columnas, 1);
-    for (QRadioButton* boton : botones_)
-        disposicion_->removeWidget(boton);
-    Colocar();
 }
 
 void GrupoBotones::PonerJunto(int indice, QWidget* widget)
 {
-    disposicion_->addWidget(widget, indice / columnas_, 1);
+    QBoxLayout* linea = lineas_.at(static_cast<size_t>(indice));
+    const bool ocupaTodo = widget->maximumWidth() == QWIDGETSIZE_MAX;
+    linea->addWidget(widget, ocupaTodo ? 1 : 0);
+    linea->setStretch(1, ocupaTodo ? 0 : 1); // a narrow field stands at the right end
     if (const QString titulo = boton(indice)->text(); !titulo.isEmpty())
         widget->setAccessibleName(titulo);
     else

@@ -8,7 +8,7 @@
 #include <vector>
 
 class QButtonGroup;
-class QGridLayout;
+class QBoxLayout;
 
 namespace valmerix {
 
@@ -25,8 +25,6 @@ public:
     QRadioButton* boton(int indice) const { return botones_.at(static_cast<size_t>(indice)); }
     /// Puts a widget at the right of an option.
     void PonerJunto(int indice, QWidget* widget);
-    /// Lays the options side by side, as many in a line.
-    void setColumnas(int columnas);
 
 Q_SIGNALS:
     /// The buttons were made afresh.
@@ -34,14 +32,13 @@ Q_SIGNALS:
 
 private:
     void Rehacer();
-    void Colocar();
     void Mostrar();
 
     QPointer<GrupoOpciones> opciones_;
     QButtonGroup* grupo_;
-    QGridLayout* disposicion_;
+    QBoxLayout* disposicion_;
     std::vector<QRadioButton*> botones_;
-    int columnas_ = 1;
+    std::vector<QBoxLayout*> lineas_;
 };
 
 } // namespace valmerix

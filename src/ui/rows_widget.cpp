@@ -16,7 +16,8 @@ CajaFilas::CajaFilas(Lista& lista, Gesto gesto, QWidget* padre)
     if (gesto == Gesto::Sencillo)
         connect(this, &QListWidget::currentRowChanged, this, &CajaFilas::Elegir);
     else
-        connect(this, &QListWidget::itemActivated, this, [this](QListWidgetItem* fila) { Elegir(row(fila)); });
+        connect(this, &QListWidget::itemActivated, this,
+                [this](QListWidgetItem* fila) { Elegir(row(fila)); });
     Mostrar();
 }
 
