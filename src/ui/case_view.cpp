@@ -90,10 +90,9 @@ QSize VistaCaso::sizeHint() const
 void VistaCaso::PonerCabecera()
 {
     auto* cabecera = new CabeceraVentana(enlazador(), u"EtiquetaCaption", this);
-    if (const MarcaTipo* marca = MarcaDe(formulario_.nombre())) {
-        cabecera->PonerColores(QColor::fromRgb(marca->color1), QColor::fromRgb(marca->color2));
-        cabecera->PonerIcono(Icono(marca->icono.toString()));
-    }
+    const ColoresTipo colores = ColoresEnPantalla(formulario_.nombre());
+    cabecera->PonerColores(colores.uno, colores.otro);
+    cabecera->PonerIcono(Icono(formulario_.nombre().toLower()));
     cabecera->PonerBoton(u"SSCommand4", u"anterior"_s);
     cabecera->PonerBoton(u"SSCommand5", u"siguiente"_s);
     cabecera->PonerHueco();

@@ -133,8 +133,8 @@ void ConstructorFormulario::Lineas(Filas filas, PanelSeccion& panel)
             JuntoALaOpcion(filas[i], &panel);
         else
             Linea(filas.subspan(i, fin - i), *rejilla, &panel);
-        crece = crece || filas[i].clase == ClaseControl::Rejilla || filas[i].clase == ClaseControl::TextoLargo ||
-                filas[i].clase == ClaseControl::Imagen;
+        crece = crece || filas[i].clase == ClaseControl::Rejilla ||
+                filas[i].clase == ClaseControl::TextoLargo || filas[i].clase == ClaseControl::Imagen;
         i = fin;
     }
     panel.cuerpo()->addLayout(rejilla, crece ? 1 : 0);
