@@ -24,7 +24,9 @@ VistaPregunta::VistaPregunta(Ventana& ventana)
     : VistaVentana(ventana, Marco::Sistema)
 {
     auto* icono = new QLabel(this);
-    icono->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxQuestion).pixmap(QSize(kIcono, kIcono)));
+    icono->setPixmap(style()
+                         ->standardIcon(QStyle::SP_MessageBoxQuestion)
+                         .pixmap(QSize(kIcono, kIcono), devicePixelRatioF()));
     auto* pregunta = dynamic_cast<QLabel*>(enlazador().Crear(u"Label1", this));
     QFont letra = pregunta->font();
     letra.setBold(true);

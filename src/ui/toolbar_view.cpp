@@ -1,16 +1,15 @@
 #include "ui/toolbar_view.h"
 
-#include "ui/application.h"
 #include "ui/caption_bar.h"
 #include "ui/icons.h"
+#include "ui/kind_colours.h"
 #include "ui/theme.h"
+#include "ui/window_drag.h"
 
 #include <QBoxLayout>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QToolButton>
-#include <QWindow>
 
 namespace valmerix {
 
@@ -39,15 +38,6 @@ const GrupoOrdenes kGrupos[] = {
     {u"Datos", {5, 6, 7, 11, 10}},
     {u"Sistema", {2, 9, 8}},
 };
-
-// "red,green,blue", as the window leaves it with its title pictures.
-QColor ColorDe(const QString& etiqueta)
-{
-    const QStringList partes = etiqueta.split(u',');
-    if (partes.size() != 3)
-        return {};
-    return QColor(partes[0].toInt(), partes[1].toInt(), partes[2].toInt());
-}
 
 /// The title picture: a field of the kind's colours.
 class Franja : public QWidget
@@ -95,7 +85,7 @@ VistaPaleta::VistaPaleta(Ventana& ventana)
         QFont letra = rotulo->font();
         letra.setBold(true);
         rotulo->setFont(letra);
-        rotulo->setContentsMargins(medida::kBorde, medida::kBorde, 0, medida::kEntreLineas / 2);
+        rotulo->setContentsMargins(medida::kEntreCampos, medida::kBorde, 0, medida::kEntreLineas / 2);
         todo->addWidget(rotulo);
         for (const int orden : g.ordenes)
             todo->addWidget(CrearOrden(orden));
@@ -105,25 +95,27 @@ VistaPaleta::VistaPaleta(Ventana& ventana)
 
 QWidget* VistaPaleta::Titulo()
 {
-    const QColor uno = ColorDe(ventana()->control(u"Image1").Tag());
-    auto* franja = new Franja(uno, ColorDe(ventana()->control(u"Image2").Tag()), this);
+    const QColor uno = ColorDeTexto(ventana()->control(u"Image1").Tag());
+    auto* franja = new Franja(uno, ColorDeTexto(ventana()->control(u"Image2").Tag()), this);
     auto* fila = new QHBoxLayout(franja);
     fila->setContentsMargins(medida::kBorde, 0, medida::kEntreLineas, 0);
     auto* titulo = new QLabel(ventana()->Caption(), franja);
     QFont letra = titulo->font();
     letra.setBold(true);
     titulo->setFont(letra);
-    auto* cerrar = qobject_cast<QToolButton*>(CrearBotonIcono(enlazador(), u"SSCommand3", u"salir"_s, franja));
+    auto* cerrar =
+        qobject_cast<QToolButton*>(CrearBotonIcono(enlazador(), u"SSCommand3", u"salir"_s, franja));
     cerrar->setFocusPolicy(Qt::NoFocus);
     if (uno.isValid()) {
         QPalette paleta;
         paleta.setColor(QPalette::WindowText, TextoSobre(uno));
         titulo->setPalette(paleta);
-        cerrar->setIcon(Icono(u"salir"_s, TextoSobre(ColorDe(ventana()->control(u"Image2").Tag()))));
+        cerrar->setIcon(Icono(u"salir"_s, TextoSobre(ColorDeTexto(ventana()->control(u"Image2").Tag()))));
     }
     fila->addWidget(titulo);
     fila->addStretch();
     fila->addWidget(cerrar);
+    ArrastrarPor(*franja);
     return franja;
 }
 
@@ -137,8 +129,7 @@ QWidget* VistaPaleta::CrearOrden(int indice)
     boton->setAutoRaise(true);
     boton->setFocusPolicy(Qt::NoFocus);
     boton->setFixedWidth(kAnchoOrden);
-    enlazador().Atar(orden, boton);
-    connect(boton, &QToolButton::clicked, &orden, [&orden] { Protegido([&] { orden.Pulsar(); }); });
+    enlazador().AtarBoton(orden, boton);
     return boton;
 }
 
@@ -148,27 +139,6 @@ void VistaPaleta::paintEvent(QPaintEvent* /*evento*/)
     pintor.fillRect(rect(), ColorPanel(palette()));
     pintor.setPen(ColorLinea(palette()));
     pintor.drawRect(rect().adjusted(0, 0, -1, -1));
-}
-
-void VistaPaleta::mousePressEvent(QMouseEvent* evento)
-{
-    if (evento->button() != Qt::LeftButton || evento->position().y() > kAltoTitulo)
-        return;
-    if (windowHandle() && windowHandle()->startSystemMove())
-        return;
-    arrastrando_ = true;
-    agarre_ = evento->globalPosition().toPoint() - pos();
-}
-
-void VistaPaleta::mouseMoveEvent(QMouseEvent* evento)
-{
-    if (arrastrando_)
-        move(evento->globalPosition().toPoint() - agarre_);
-}
-
-void VistaPaleta::mouseReleaseEvent(QMouseEvent* /*evento*/)
-{
-    arrastrando_ = false;
 }
 
 } // namespace valmerix

@@ -14,16 +14,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* evento) override;
-    void mousePressEvent(QMouseEvent* evento) override;
-    void mouseMoveEvent(QMouseEvent* evento) override;
-    void mouseReleaseEvent(QMouseEvent* evento) override;
 
 private:
     QWidget* Titulo();
     QWidget* CrearOrden(int indice);
-
-    QPoint agarre_;
-    bool arrastrando_ = false;
 };
 
 } // namespace valmerix

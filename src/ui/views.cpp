@@ -1,7 +1,16 @@
 #include "ui/views.h"
 
+#include "ui/bar_view.h"
 #include "ui/case_view.h"
+#include "ui/chooser_view.h"
+#include "ui/editor_view.h"
 #include "ui/generic_view.h"
+#include "ui/progress_view.h"
+#include "ui/question_view.h"
+#include "ui/record_view.h"
+#include "ui/start_view.h"
+#include "ui/toolbar_view.h"
+#include "ui/viewer_view.h"
 
 namespace valmerix {
 
@@ -25,6 +34,18 @@ constexpr VistaDeVentana kVistas[] = {
     {u"Piso", Nueva<VistaCaso>},
     {u"Apto", Nueva<VistaCaso>},
     {u"Casa", Nueva<VistaCaso>},
+    {u"Form1", Nueva<VistaInicio>},
+    {u"Form2", Nueva<VistaPaleta>},
+    {u"Visor", Nueva<VistaVisor>},
+    {u"Calculos", Nueva<VistaProgreso>},
+    {u"Ficha", Nueva<VistaFicha>},
+    {u"SALIDA", Nueva<VistaPregunta>},
+    {u"Reinicio", Nueva<VistaPregunta>},
+    {u"Observaciones", Nueva<VistaEditor>},
+    {u"Problema", Nueva<VistaEditor>},
+    {u"Busqueda", Nueva<VistaSelector>},
+    {u"Minimizado", Nueva<VistaBarra>},
+    {u"VisorMin", Nueva<VistaBarra>},
 };
 
 } // namespace

@@ -34,10 +34,7 @@ protected:
     }
 
     QTabWidget& paginas() { return dynamic_cast<QTabWidget&>(*vista->enlazador().de(u"SSTab1")); }
-    QLineEdit& linea(QStringView nombre)
-    {
-        return dynamic_cast<QLineEdit&>(*vista->enlazador().de(nombre));
-    }
+    QLineEdit& linea(QStringView nombre) { return dynamic_cast<QLineEdit&>(*vista->enlazador().de(nombre)); }
 
     EntornoDePrueba entorno;
     Formulario formulario;
@@ -64,8 +61,7 @@ TEST_P(CaseView, EveryControlHasANameForWhoCannotSeeIt)
         EXPECT_FALSE(widget->accessibleName().isEmpty()) << qPrintable(control->nombre());
     }
     for (const auto* boton : vista->findChildren<QAbstractButton*>()) {
-        if (!boton->objectName().startsWith(u"qt_") && boton->focusPolicy() != Qt::NoFocus)
-        {
+        if (!boton->objectName().startsWith(u"qt_") && boton->focusPolicy() != Qt::NoFocus) {
             EXPECT_FALSE(boton->text().isEmpty() && boton->accessibleName().isEmpty())
                 << qPrintable(boton->objectName());
         }
@@ -159,7 +155,8 @@ TEST_P(CaseView, MnemonicsOfPagesAndButtonsAreUnique)
         if (const QKeySequence atajo = QKeySequence::mnemonic(boton->text()); !atajo.isEmpty())
             letras += atajo.toString();
     }
-    EXPECT_EQ(QSet<QString>(letras.begin(), letras.end()).size(), letras.size()) << qPrintable(letras.join(u' '));
+    EXPECT_EQ(QSet<QString>(letras.begin(), letras.end()).size(), letras.size())
+        << qPrintable(letras.join(u' '));
     EXPECT_GT(letras.size(), 9);
 }
 

@@ -1,0 +1,335 @@
+#include "photos.h"
+#include "support/fake_ports.h"
+#include "support/fake_screen.h"
+#include "support/test_database.h"
+
+#include "report/viewer.h"
+#include "shell/application.h"
+#include "shell/exit_restart.h"
+#include "shell/start_window.h"
+#include "ui/desktop.h"
+#include "ui/rich_text_widget.h"
+#include "ui/tree_model.h"
+#include "valuation/case_form.h"
+
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTest>
+#include <QTextBlock>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace valmerix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The whole program on the real screen classes, its store in a folder of its own.
+class Windows : public testing::Test
+{
+protected:
+    Windows()
+    {
+        sistema.carpeta = carpeta.path();
+        aplicacion.Arrancar();
+        Ejecutar(u"UPDATE Empresa SET Nombre = 'Túria Tasaciones'"_s);
+        Ejecutar(u"INSERT INTO Tasadores (Nombre,Contador,Poblacion,Provincia) VALUES ('Rosa Peña',4,"
+                 u"'Alcoi','Alicante')"_s);
+    }
+
+    void Ejecutar(const QString& sql)
+    {
+        AccesoDatos::clsConsulta consulta;
+        consulta.AbrirBaseDatosEmpresa(aplicacion.compartido().RutaBaseDatos);
+        consulta.EjecutarSentencia(u"Empresa"_s, sql);
+        consulta.Confirmar();
+    }
+
+    VistaVentana& Vista(const Ventana& ventana)
+    {
+        VistaVentana* vista = pantalla.vista(ventana);
+        if (!vista)
+            throw std::logic_error("no view of " + ventana.nombre().toStdString());
+        return *vista;
+    }
+    VistaVentana* VistaModal() { return qobject_cast<VistaVentana*>(QApplication::activeModalWidget()); }
+    QAbstractButton& Boton_(QWidget& vista, const QString& nombre)
+    {
+        return *vista.findChild<QAbstractButton*>(nombre);
+    }
+    void Pulsar(QWidget& vista, const QString& nombre)
+    {
+        QTest::mouseClick(&Boton_(vista, nombre), Qt::LeftButton);
+    }
+    void Teclear(QStringView campo, const QString& texto)
+    {
+        Formulario& forma = *aplicacion.FormularioActual();
+        forma.Enfocar(campo);
+        QWidget* widget = Vista(forma).enlazador().de(campo);
+        QTest::keyClicks(widget, texto);
+    }
+    void AbrirPiso()
+    {
+        aplicacion.inicio()->TerminarPortada();
+        Pulsar(Vista(*aplicacion.inicio()), u"SSCommand2(0)"_s);
+        Vista(*aplicacion.FormularioActual()).activateWindow();
+    }
+    void Redactar()
+    {
+        Pulsar(Vista(*aplicacion.paleta()), u"Botonera(0)"_s);
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return aplicacion.visor() && pantalla.vista(*aplicacion.visor()); }));
+    }
+    EditorInforme& Informe() { return *Vista(*aplicacion.visor()).findChild<EditorInforme*>(u"Texto"_s); }
+
+    QTemporaryDir carpeta;
+    FakeDialogos dialogos;
+    FakeReloj reloj;
+    FakeSistema sistema;
+    PantallaQt pantalla;
+    FakeCaptura captura;
+    Aplicacion aplicacion{Puertos{dialogos, reloj, sistema, pantalla, captura}};
+};
+
+TEST_F(Windows, TheTitleShowsItsLettersAndAClickEndsIt)
+{
+    VistaVentana& vista = Vista(*aplicacion.inicio());
+    auto* partes = vista.findChild<QStackedWidget*>();
+    EXPECT_EQ(partes->currentIndex(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return aplicacion.inicio()->control(u"Label3").Visible(); }, 3000));
+    Fotografiar(vista, u"Form1-titulo"_s);
+    QTest::mouseClick(partes->currentWidget(), Qt::LeftButton);
+    EXPECT_EQ(partes->currentIndex(), 1);
+    EXPECT_TRUE(vista.enlazador().de(u"Arbol")->isVisible());
+    Fotografiar(vista, u"Form1"_s);
+}
+
+TEST_F(Windows, EscapeOnTheStartWindowAsksForTheEnd)
+{
+    aplicacion.inicio()->TerminarPortada();
+    QString pregunta;
+    QTimer::singleShot(0, qApp, [&] {
+        VistaVentana* salida = VistaModal();
+        ASSERT_NE(salida, nullptr);
+        pregunta = salida->findChild<QLabel*>(u"Label1"_s)->text();
+        Fotografiar(*salida, u"SALIDA"_s);
+        Pulsar(*salida, u"SSCommand1"_s);
+    });
+    QTest::keyClick(Vista(*aplicacion.inicio()).enlazador().de(u"Arbol"), Qt::Key_Escape);
+    EXPECT_EQ(pregunta, u"¿Desea abandonar Valmerix?");
+    EXPECT_TRUE(sistema.finales.empty());
+}
+
+TEST_F(Windows, ACaseIsTypedSavedAndFoundInTheTreeAfterARestart)
+{
+    AbrirPiso();
+    EXPECT_EQ(aplicacion.inicio(), nullptr);
+    auto& forma = *aplicacion.FormularioActual();
+    forma.lista(u"cboNombreTasador").Elegir(0);
+    Teclear(u"BoxSit", u"Calle de l'Om, 5"_s);
+    Teclear(u"BoxMun", u"Alcoi"_s);
+    Teclear(u"BoxConst", u"100"_s);
+    Teclear(u"BoxCc", u"600"_s);
+    Teclear(u"BoxK", u"1.3"_s);
+    Pulsar(Vista(forma), u"SSCommand7"_s);
+    EXPECT_FALSE(forma.texto(u"BoxTotal").isEmpty());
+    Fotografiar(Vista(*aplicacion.paleta()), u"Form2"_s);
+    Pulsar(Vista(*aplicacion.paleta()), u"Botonera(5)"_s);
+    EXPECT_EQ(aplicacion.compartido().NumeroTasacionActual, 5);
+    QTimer::singleShot(0, qApp, [&] {
+        Fotografiar(*VistaModal(), u"Reinicio"_s);
+        Pulsar(*VistaModal(), u"SSCommand1"_s);
+    });
+    Pulsar(Vista(*aplicacion.paleta()), u"Botonera(3)"_s);
+    ASSERT_NE(aplicacion.inicio(), nullptr);
+    auto* arbol = dynamic_cast<QTreeView*>(Vista(*aplicacion.inicio()).enlazador().de(u"Arbol"));
+    const QModelIndex pisos = arbol->model()->index(0, 0, {});
+    ASSERT_EQ(arbol->model()->rowCount(pisos), 1);
+    const QModelIndex caso = arbol->model()->index(0, 0, pisos);
+    EXPECT_EQ(caso.data().toString(), u"Calle de l’Om, 5 (Alcoi)");
+    arbol->expandAll();
+    Fotografiar(Vista(*aplicacion.inicio()), u"Form1-arbol"_s);
+    arbol->setCurrentIndex(caso);
+    QTest::keyClick(arbol, Qt::Key_Return);
+    ASSERT_NE(aplicacion.FormularioActual(), nullptr);
+    EXPECT_EQ(aplicacion.FormularioActual()->texto(u"BoxMun"), u"Alcoi");
+}
+
+TEST_F(Windows, TheReportIsReadSearchedAndCorrectedInTheViewer)
+{
+    AbrirPiso();
+    Teclear(u"BoxMun", u"Alcoi"_s);
+    Redactar();
+    VistaVentana& vista = Vista(*aplicacion.visor());
+    TextoEnriquecido& texto = aplicacion.visor()->Texto();
+    QApplication::processEvents();
+    EXPECT_EQ(Informe().toPlainText(), texto.Text());
+    Fotografiar(vista, u"Visor"_s);
+    auto* busqueda = vista.findChild<QComboBox*>(u"Combo1"_s);
+    QTest::keyClicks(busqueda, u"alcoi"_s);
+    QTest::keyClick(busqueda, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(Informe().textCursor().selectedText().toLower(), u"alcoi");
+    QTest::keyClicks(&Informe(), u"x"_s);
+    EXPECT_EQ(Informe().toPlainText(), texto.Text()) << "still locked";
+    Pulsar(vista, u"chkEditable"_s);
+    ASSERT_EQ(dialogos.mensajes.size(), 1U);
+    QTest::keyClicks(&Informe(), u"Alcoi d'ara"_s);
+    EXPECT_EQ(Informe().toPlainText(), texto.Text());
+    EXPECT_TRUE(texto.Text().contains(u"Alcoi d’ara"));
+    Pulsar(vista, u"SSCommand1"_s);
+    EXPECT_EQ(pantalla.vista(*aplicacion.visor()), nullptr);
+}
+
+TEST_F(Windows, AChapterButtonBringsItsChapterToTheTop)
+{
+    AbrirPiso();
+    Redactar();
+    QApplication::processEvents();
+    Pulsar(Vista(*aplicacion.visor()), u"SSCommand5(10)"_s);
+    QApplication::processEvents();
+    const QTextCursor cursor = Informe().textCursor();
+    EXPECT_FALSE(cursor.hasSelection());
+    EXPECT_TRUE(cursor.block().text().contains(u"Asciende el importe"));
+    EXPECT_GE(Informe().cursorRect().top(), 0);
+}
+
+TEST_F(Windows, MinimisingHidesFormAndToolbarAndRestoringBringsBothBack)
+{
+    AbrirPiso();
+    auto& forma = *aplicacion.FormularioActual();
+    VistaVentana& caso = Vista(forma);
+    EXPECT_FALSE(Vista(*aplicacion.barra()).isVisible());
+    ASSERT_NE(aplicacion.paleta(), nullptr);
+    Pulsar(caso, u"SSCommand2"_s);
+    EXPECT_FALSE(caso.isVisible());
+    EXPECT_TRUE(Vista(*aplicacion.barra()).isMinimized());
+    EXPECT_EQ(Vista(*aplicacion.barra()).windowTitle(), u"Valmerix - Pisos");
+    Vista(*aplicacion.barra()).showNormal();
+    QApplication::processEvents();
+    EXPECT_TRUE(caso.isVisible());
+    EXPECT_FALSE(Vista(*aplicacion.barra()).isVisible());
+    ASSERT_NE(aplicacion.paleta(), nullptr);
+    EXPECT_TRUE(Vista(*aplicacion.paleta()).isVisible());
+}
+
+TEST_F(Windows, TheToolbarStandsAtTheFormsRightEdgeAndBothFitASmallScreen)
+{
+    AbrirPiso();
+    const QRect caso = Vista(*aplicacion.FormularioActual()).frameGeometry();
+    const QRect paleta = Vista(*aplicacion.paleta()).frameGeometry();
+    EXPECT_EQ(paleta.left(), caso.left() + caso.width());
+    EXPECT_EQ(paleta.top(), caso.top());
+    EXPECT_LE(caso.width() + paleta.width(), 1280);
+    EXPECT_LE(paleta.height(), 760);
+}
+
+TEST_F(Windows, TheRecordOfCompanyAndValuersIsFilledIn)
+{
+    AbrirPiso();
+    QTimer::singleShot(0, qApp, [&] {
+        VistaVentana* ficha = VistaModal();
+        ASSERT_NE(ficha, nullptr);
+        auto* lista = ficha->findChild<QTableView*>(u"Flexi"_s);
+        Fotografiar(*ficha, u"Ficha"_s);
+        auto* nombre = ficha->findChild<QLineEdit*>(u"txtNombreTasador"_s);
+        const QPoint sitio = lista->visualRect(lista->model()->index(0, 1)).center();
+        QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, sitio);
+        QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, sitio);
+        EXPECT_EQ(nombre->text(), u"Rosa Peña");
+        Pulsar(*ficha, u"bttCancel"_s);
+    });
+    Pulsar(Vista(*aplicacion.FormularioActual()), u"BotonFicha"_s);
+    EXPECT_EQ(VistaModal(), nullptr);
+}
+
+TEST_F(Windows, NotesAndProblemAreWrittenInTheirEditors)
+{
+    AbrirPiso();
+    auto& forma = *aplicacion.FormularioActual();
+    QTimer::singleShot(0, qApp, [&] {
+        QTest::keyClicks(VistaModal()->findChild<QWidget*>(u"txtEdicionObservaciones"_s), u"Buen estado."_s);
+        Fotografiar(*VistaModal(), u"Observaciones"_s);
+        Pulsar(*VistaModal(), u"SSCommand1"_s);
+    });
+    Pulsar(Vista(forma), u"cmdObservaciones"_s);
+    EXPECT_EQ(forma.texto(u"txtObservaciones"), u"Buen estado.");
+    QTimer::singleShot(0, qApp, [&] {
+        QTest::keyClicks(VistaModal()->findChild<QWidget*>(u"BoxProblema"_s), u"Sin licencia."_s);
+        Fotografiar(*VistaModal(), u"Problema"_s);
+        Pulsar(*VistaModal(), u"SSCommand1"_s);
+    });
+    Pulsar(Vista(forma), u"SSCommand6"_s);
+    EXPECT_EQ(aplicacion.frases().FraseUrbanistica, u"Sin licencia.");
+}
+
+TEST_F(Windows, TheWordProcessorIsChosenFromTheDisk)
+{
+    AbrirPiso();
+    CampoTexto trayecto(u"TrayecBox"_s);
+    QTimer::singleShot(0, qApp, [&] {
+        VistaVentana* selector = VistaModal();
+        auto* carpetas = selector->findChild<QListWidget*>(u"Dir1"_s);
+        const auto bin = carpetas->findItems(u"bin"_s, Qt::MatchExactly);
+        ASSERT_FALSE(bin.isEmpty());
+        carpetas->setCurrentItem(bin.front());
+        QTest::keyClick(carpetas, Qt::Key_Return);
+        auto* programas = selector->findChild<QListWidget*>(u"File1"_s);
+        const auto cat = programas->findItems(u"cat"_s, Qt::MatchExactly);
+        ASSERT_FALSE(cat.isEmpty());
+        programas->setCurrentItem(cat.front());
+        Fotografiar(*selector, u"Busqueda"_s);
+        Pulsar(*selector, u"Nueva"_s);
+    });
+    aplicacion.MostrarBusqueda(trayecto);
+    EXPECT_EQ(trayecto.Text(), u"/bin/cat");
+}
+
+TEST_F(Windows, SettingsOpenThoughTheyHaveNoViewOfTheirOwnYet)
+{
+    AbrirPiso();
+    QTimer::singleShot(0, qApp, [&] {
+        Fotografiar(*VistaModal(), u"Opciones"_s);
+        EXPECT_NE(VistaModal()->findChild<QWidget*>(u"cmdOK"_s), nullptr);
+        VistaModal()->close();
+    });
+    aplicacion.MostrarOpciones();
+}
+
+TEST(Tree, AHundredThousandLeavesOpenAtOnce)
+{
+    Ventana ventana(u"Arboleda"_s);
+    auto& arbol = ventana.Añadir<Arbol>(u"Arbol"_s);
+    CarpetaArbol pisos{u"P"_s, u"Pisos"_s, {}};
+    for (int i = 0; i < 100000; ++i)
+        pisos.hijos.push_back({u"Ana#%1#P"_s.arg(i), u"Calle Mayor, %1 (Teruel)"_s.arg(i)});
+    VistaArbol vista(arbol, nullptr);
+    vista.resize(300, 400);
+    vista.show();
+    QElapsedTimer reloj;
+    reloj.start();
+    arbol.setCarpetas({std::move(pisos), {u"A"_s, u"Apartamentos"_s, {}}});
+    vista.expand(vista.model()->index(0, 0, {}));
+    QApplication::processEvents();
+    EXPECT_LT(reloj.elapsed(), 400);
+    const QModelIndex ultima = vista.model()->index(99999, 0, vista.model()->index(0, 0, {}));
+    EXPECT_TRUE(ultima.flags().testFlag(Qt::ItemNeverHasChildren));
+    QString abierta;
+    QObject::connect(&arbol, &Arbol::DblClick, &ventana, [&] { abierta = arbol.seleccion(); });
+    vista.setCurrentIndex(ultima);
+    EXPECT_EQ(arbol.seleccion(), u"Ana#99999#P");
+    QTest::keyClick(&vista, Qt::Key_Return);
+    EXPECT_EQ(abierta, u"Ana#99999#P");
+}
+
+} // namespace
+
+} // namespace valmerix
