@@ -231,7 +231,7 @@ UPDATE Viviendas SET
     MobiliarioK = 1, TextoMobiliarioK = '',
     AcabadoInterior = 1, TextoAcabadoInterior = '',
     Sup = 0, SupUtil = 84.20, SupConst = 103.75, ConservacionViv = 0, CalidadesGrales = 2,
-    Documentacion = '0101', TextoDocumentacion = 'Memoria de calidades y plano de la promoción',
+    Documentacion = '0101', TextoDocumentacion = 'Memoria de calidades de la promoción',
     Anexos = '110', PlantaTrastero = 'sótano primero', ValorTrastero = 4500.00,
     PlantaGaraje = 'sótano segundo', ValorGaraje = 14000.00,
     DescripcionAnexo = '', ValorAnexo = 0.00,
@@ -257,7 +257,7 @@ INSERT INTO TestigosInforme (NombreTasador, Tipo, NumeroTasacion, Origen, Testig
 INSERT INTO Viviendas (NombreTasador, Tipo, NumeroTasacion) VALUES ('Íñigo Sáenz de Urturi Ruiz', 'P', 31);
 UPDATE Viviendas SET
     Plaza = 'Logroño', Fecha = '2026-04-17', Presentacion = 1,
-    Situacion = 'C/ Pérez Galdós, 46, 5.º izda.',
+    Situacion = 'C/ Pérez Galdós, 46, 5.º izquierda',
     Municipio = 'Logroño', CP = '26002', Provincia = 'La Rioja', Zona = 'Buena',
     Registro = 'de la Propiedad n.º 1 de Logroño', Tomo = '987', Libro = '311', Folio = '204',
     Finca = '19.403', Inscripcion = '3', Anotacion = '',
@@ -296,7 +296,7 @@ INSERT INTO Testigos
     (Origen, Tipo, Tasacion, Fecha, Situacion, CP, Municipio, Provincia,
      Zona, Ascensor, Antiguedad, Dormitorios, SupUtil, Superficie, ValorFinal, UnidadMedida)
 VALUES
-    ('I', 'P', -31, '2026-04-17', 'C/ Pérez Galdós, 46, 5.º izda.',
+    ('I', 'P', -31, '2026-04-17', 'C/ Pérez Galdós, 46, 5.º izquierda',
      '26002', 'Logroño', 'La Rioja', 'Buena', 'S', 33, 3, 92.35, 0.00, 190446.20, 'm²');
 INSERT INTO TestigosInforme (NombreTasador, Tipo, NumeroTasacion, Origen, Testigo) VALUES
     ('Íñigo Sáenz de Urturi Ruiz', 'P', 31, 'E', 8),
@@ -307,12 +307,12 @@ INSERT INTO TestigosInforme (NombreTasador, Tipo, NumeroTasacion, Origen, Testig
 INSERT INTO Viviendas (NombreTasador, Tipo, NumeroTasacion) VALUES ('Xosé Manuel Castro Lema', 'P', 57);
 UPDATE Viviendas SET
     Plaza = 'A Coruña', Fecha = '2026-09-25', Presentacion = 1,
-    Situacion = 'Rúa de Juan Flórez, 62, 6.º dcha.',
+    Situacion = 'Rúa de Juan Flórez, 62, 6.º derecha',
     Municipio = 'A Coruña', CP = '15004', Provincia = 'A Coruña', Zona = 'Buena',
     Registro = 'de la Propiedad n.º 2 de A Coruña', Tomo = '2.046', Libro = '1.190', Folio = '66',
     Finca = '70.518', Inscripcion = '2', Anotacion = '',
     NombreSolicitante = 'Herederos de D. Avelino Varela Outeiro', NIFSolicitante = '',
-    DomicilioSolicitante = 'Rúa de Juan Flórez, 62, 6.º dcha.', CPSolicitante = '15004',
+    DomicilioSolicitante = 'Rúa de Juan Flórez, 62, 6.º derecha', CPSolicitante = '15004',
     PoblacionSolicitante = 'A Coruña', ProvinciaSolicitante = '',
     OpcionFinalidad = 4, TextoFinalidad = 'División de herencia',
     Actividad = 'Comercio', Renta = 'Elevado', Censo = 'Estable', HabitantesDerecho = 249261,
@@ -323,8 +323,8 @@ UPDATE Viviendas SET
     EquipamientosBasicos = '11111', EquipamientosLudicos = '10111',
     Plantas = 9, VivPorPlanta = 2, Ascensores = 2, Antiguedad = 45, Sotanos = 2,
     Tipologia = 'Entre medianeras', UsoBaja = 'Comercial', UsoSotano = 'Trasteros',
-    Estructura = 'Mixta', Cubierta = 'Inclinada teja', Fachada = 'Aplacado de granito',
-    Zaguan = 'Amplio', AcabZaguan = 'Revestimientos de granito y madera', Escalera = 'Amplia',
+    Estructura = 'Mixta', Cubierta = 'Inclinada teja', Fachada = 'De aplacado de granito',
+    Zaguan = 'Amplio', AcabZaguan = 'Con revestimientos de granito y madera', Escalera = 'Amplia',
     AcabEscalera = 'Bien acabada',
     ServiciosComunes = '000001', Conservacion = 0, SitUrb = 0,
     Composicion = '1111110111', Dormitorios = 4, Baños = 2, Aseos = 1, Terrazas = 1,
@@ -346,7 +346,7 @@ INSERT INTO Testigos
     (Origen, Tipo, Tasacion, Fecha, Situacion, CP, Municipio, Provincia,
      Zona, Ascensor, Antiguedad, Dormitorios, SupUtil, Superficie, ValorFinal, UnidadMedida)
 VALUES
-    ('I', 'P', -57, '2026-09-25', 'Rúa de Juan Flórez, 62, 6.º dcha.',
+    ('I', 'P', -57, '2026-09-25', 'Rúa de Juan Flórez, 62, 6.º derecha',
      '15004', 'A Coruña', 'A Coruña', 'Buena', 'S', 45, 4, 104.60, 127.90, 290159.00, 'm²');
 INSERT INTO ImagenesAsociadas (NombreTasador, Tipo, NumeroTasacion, Nombre, Ruta) VALUES
     ('Xosé Manuel Castro Lema', 'P', 57, 'Vista desde la galería', '/srv/tasaciones/2026/57/Vista desde la galería.jpg');
@@ -376,7 +376,7 @@ UPDATE Viviendas SET
     Tipologia = 'Entre medianeras', UsoBaja = 'Comercial', UsoSotano = '',
     Estructura = 'Muros de carga', Cubierta = 'Plana pisable', Fachada = 'Pintura pétrea',
     Zaguan = 'Pequeño', AcabZaguan = 'Calidad sencilla', Escalera = 'Amplia',
-    AcabEscalera = 'Solería de mármol y barandilla de forja',
+    AcabEscalera = 'Con solería de mármol y barandilla de forja',
     ServiciosComunes = '000000', Conservacion = 1, SitUrb = 0,
     Composicion = '1000100100', Dormitorios = 2, Baños = 1, Aseos = 0, Terrazas = 0,
     Otros = 0, NombreOtros = '', Otros2 = 0, NombreOtros2 = '',
@@ -462,10 +462,10 @@ UPDATE Viviendas SET
     Registro = 'de la Propiedad n.º 1 de Ávila', Tomo = '1.660', Libro = '512', Folio = '93',
     Finca = '30.177', Inscripcion = '', Anotacion = '',
     NombreSolicitante = 'Mutua Abulense de Seguros', NIFSolicitante = 'V-00000059',
-    DomicilioSolicitante = 'C/ de los Reyes Católicos, 20', CPSolicitante = '',
+    DomicilioSolicitante = 'C/ de los Reyes Católicos, 20', CPSolicitante = '05001',
     PoblacionSolicitante = 'Ávila', ProvinciaSolicitante = 'Ávila',
     OpcionFinalidad = 1, TextoFinalidad = '',
-    Actividad = 'Funcionariado y servicios públicos', Renta = 'Medio', Censo = 'Estable',
+    Actividad = 'El funcionariado y los servicios públicos', Renta = 'Medio', Censo = 'Estable',
     HabitantesDerecho = 57949, HabitantesHecho = 0,
     OpcionTipoNucleo = 0, TextoSatelite = '', TextoTipoNucleo = '',
     Consolidacion = 80, Delimitacion = 'Extramuros, junto a la estación', Uso = 'Residencial',
@@ -503,7 +503,7 @@ VALUES
 INSERT INTO Viviendas (NombreTasador, Tipo, NumeroTasacion) VALUES ('Marta Ferrer Climent', 'P', 217);
 UPDATE Viviendas SET
     Plaza = 'Valencia', Fecha = '2026-11-20', Presentacion = 1,
-    Situacion = 'Avinguda de l’Alcalde Enric Daríes, 14, bajo dcha.',
+    Situacion = 'Avinguda de l’Alcalde Enric Daríes, 14, bajo derecha',
     Municipio = 'L’Eliana', CP = '46183', Provincia = 'Valencia', Zona = 'Buena',
     Registro = 'de la Propiedad de Benaguasil', Tomo = '1.421', Libro = '98', Folio = '177',
     Finca = '7.655', Inscripcion = '6', Anotacion = '',
@@ -543,7 +543,7 @@ INSERT INTO Testigos
     (Origen, Tipo, Tasacion, Fecha, Situacion, CP, Municipio, Provincia,
      Zona, Ascensor, Antiguedad, Dormitorios, SupUtil, Superficie, ValorFinal, UnidadMedida)
 VALUES
-    ('I', 'P', -217, '2026-11-20', 'Avinguda de l’Alcalde Enric Daríes, 14, bajo dcha.',
+    ('I', 'P', -217, '2026-11-20', 'Avinguda de l’Alcalde Enric Daríes, 14, bajo derecha',
      '46183', 'L’Eliana', 'Valencia', 'Buena', 'S', 21, 3, 99.80, 118.00, 219827.90, 'm²');
 INSERT INTO ImagenesAsociadas (NombreTasador, Tipo, NumeroTasacion, Nombre, Ruta) VALUES
     ('Marta Ferrer Climent', 'P', 217, 'Jardín', '/srv/tasaciones/2026/217/Jardín.jpg'),
@@ -568,12 +568,12 @@ UPDATE Viviendas SET
     Actividad = 'Artesanía', Renta = 'Bajo', Censo = 'Población decreciente', HabitantesDerecho = 36240,
     HabitantesHecho = 0,
     OpcionTipoNucleo = 0, TextoSatelite = '', TextoTipoNucleo = '',
-    Consolidacion = 70, Delimitacion = 'Casco antíguo', Uso = 'Sin edificar en su mayoría',
+    Consolidacion = 35, Delimitacion = 'Casco antíguo', Uso = 'Sin edificar en su mayoría',
     Infraestructuras = '0011110', Comunicaciones = '1000100',
     EquipamientosBasicos = '00000', EquipamientosLudicos = '00000',
     Plantas = 2, VivPorPlanta = 1, Ascensores = 0, Antiguedad = 110, Sotanos = 1,
     Tipologia = 'Entre medianeras', UsoBaja = 'Patio cubierto', UsoSotano = 'Bodega',
-    Estructura = 'Muros de tapial', Cubierta = 'Inclinada teja', Fachada = 'Mampostería',
+    Estructura = 'De muros de tapial', Cubierta = 'Inclinada teja', Fachada = 'Mampostería',
     Zaguan = 'Pequeño', AcabZaguan = 'Anticuado', Escalera = 'Estrecha', AcabEscalera = 'Anticuada',
     ServiciosComunes = '000000', Conservacion = 3, SitUrb = 1,
     Composicion = '1000100000', Dormitorios = 2, Baños = 0, Aseos = 0, Terrazas = 0,

@@ -64,7 +64,7 @@ std::vector<Pieza> Piezas(const Registro& tasador, const Registro& empresa)
 QString DatoCabecera(const CasoInforme& caso)
 {
     Lista& nombreTasador = caso.ventana.lista(u"cboNombreTasador");
-    AccesoDatos::clsConsulta consulta;
+    AccesoDatos::clsConsulta consulta(caso.compartido);
     consulta.AbrirBaseDatosEmpresa(caso.compartido.RutaBaseDatos);
     const Registro tasador(consulta.Instantanea2(u"Empresa"_s, u"SELECT * FROM Tasadores WHERE Nombre = '"_s +
                                                                    nombreTasador.Text() + u'\''));

@@ -160,6 +160,9 @@ void Aplicacion::EjecutarOrden(OrdenPaleta orden)
     case OrdenPaleta::CerrarVisor:
         CerrarVisor();
         break;
+    case OrdenPaleta::Opciones:
+        MostrarOpciones();
+        break;
     case OrdenPaleta::Reinicio: {
         Reinicio reinicio(puertos_.pantalla);
         connect(&reinicio, &Reinicio::Confirmado, this, [&] {

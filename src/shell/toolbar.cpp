@@ -17,7 +17,7 @@ struct FilaBoton
 constexpr std::array kBotonera = {
     FilaBoton{u"Informe", u"Redactar el informe de esta tasación"},
     FilaBoton{u"Cerrar visor", u"Cerrar el visor del informe"},
-    FilaBoton{u"Configuración", u""},
+    FilaBoton{u"Configuración", u"Edades, moneda, cabecera y procesador de textos"},
     FilaBoton{u"Reinicio", u"Volver al menú inicial"},
     FilaBoton{u"Abrir", u""},
     FilaBoton{u"Guardar", u"Guardar esta tasación"},

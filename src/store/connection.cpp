@@ -117,7 +117,8 @@ ConjuntoResultados Conexion::Leer(const QString& sql, const std::string& utf8)
 // A full disk or a failing one makes the engine undo the whole transaction by itself.
 void Conexion::ComprobarQueSigueEnPie(const QString& sql)
 {
-    if (escribiendo_ && sqlite3_get_autocommit(base_.getHandle()) != 0)
+    deshecho_ = deshecho_ || (escribiendo_ && sqlite3_get_autocommit(base_.getHandle()) != 0);
+    if (deshecho_)
         throw ErrorAlmacen(u"La base de datos ha deshecho lo que se estaba guardando."_s, sql);
 }
 
@@ -144,17 +145,17 @@ void Conexion::Escribir(const QString& sql, const std::vector<std::string>& utf8
 
 void Conexion::Confirmar()
 {
+    ComprobarQueSigueEnPie(u"COMMIT"_s);
     if (!escribiendo_)
         return;
-    ComprobarQueSigueEnPie(u"COMMIT"_s);
     escribiendo_ = false;
     const int codigo = base_.tryExec("COMMIT");
     if (codigo == SQLITE_OK)
         return;
-    const ErrorAlmacen fallo(MensajeDelMotor(codigo, QString::fromUtf8(sqlite3_errmsg(base_.getHandle()))),
-                             u"COMMIT"_s);
+    const QString mensaje = MensajeDelMotor(codigo, QString::fromUtf8(sqlite3_errmsg(base_.getHandle())));
+    deshecho_ = true;
     base_.tryExec("ROLLBACK");
-    throw fallo;
+    throw ErrorAlmacen(mensaje, u"COMMIT"_s);
 }
 
 } // namespace valmerix::AccesoDatos

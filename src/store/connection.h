@@ -20,6 +20,7 @@ public:
     ConjuntoResultados Leer(const QString& sql, const std::string& utf8);
     /// Prepares all of them before it runs the first.
     void Escribir(const QString& sql, const std::vector<std::string>& utf8);
+    /// Throws ErrorAlmacen when what was written does not stand, however often it is called.
     void Confirmar();
 
 private:
@@ -39,6 +40,7 @@ private:
 
     SQLite::Database base_;
     bool escribiendo_ = false;
+    bool deshecho_ = false; ///< what was written is lost; no more writing on this connection
 };
 
 } // namespace valmerix::AccesoDatos

@@ -19,7 +19,8 @@ namespace {
 std::string_view Utf8(sqlite3_value* valor)
 {
     const auto* texto = reinterpret_cast<const char*>(sqlite3_value_text(valor));
-    return texto == nullptr ? std::string_view() : std::string_view(texto, sqlite3_value_bytes(valor));
+    return texto == nullptr ? std::string_view()
+                            : std::string_view(texto, static_cast<size_t>(sqlite3_value_bytes(valor)));
 }
 
 void Devolver(sqlite3_context* contexto, const QString& texto)

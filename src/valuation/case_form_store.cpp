@@ -59,7 +59,7 @@ void Formulario::Load()
     CargaPaleta();
     bool hayOpciones = false;
     {
-        clsConsulta consulta;
+        clsConsulta consulta(servicios_.compartido);
         consulta.AbrirBaseDatosEmpresa(servicios_.compartido.RutaBaseDatos);
         hayOpciones = LeerOpciones(consulta, servicios_.opciones);
     }
@@ -75,7 +75,7 @@ void Formulario::AlCerrar()
                         (opciones(u"Sup").Value(0) ? u"Util"_s : u"Const"_s) + u"', MostrarCabecera = '"_s +
                         (marcada(u"Check1") ? u"V"_s : u"F"_s) + u"', "_s +
                         descripcion_.columnaPerfil.toString() + u" = '"_s + perfil() + u"'"_s;
-    clsConsulta consulta;
+    clsConsulta consulta(servicios_.compartido);
     consulta.AbrirBaseDatosEmpresa(servicios_.compartido.RutaBaseDatos);
     consulta.EjecutarSentencia(kEmpresa, sql);
     consulta.Confirmar();
@@ -83,7 +83,7 @@ void Formulario::AlCerrar()
 
 void Formulario::CargarComboTasadores()
 {
-    clsConsulta consulta;
+    clsConsulta consulta(servicios_.compartido);
     consulta.AbrirBaseDatosEmpresa(servicios_.compartido.RutaBaseDatos);
     const ConjuntoResultados filas =
         consulta.Instantanea2(kEmpresa, u"SELECT Nombre FROM Tasadores ORDER BY Nombre"_s);
@@ -98,7 +98,7 @@ void Formulario::CargarComboTasadores()
 
 void Formulario::AlElegirTasador()
 {
-    clsConsulta consulta;
+    clsConsulta consulta(servicios_.compartido);
     consulta.AbrirBaseDatosEmpresa(servicios_.compartido.RutaBaseDatos);
     const ConjuntoResultados fila =
         consulta.Instantanea2(kEmpresa, u"SELECT Poblacion, Provincia FROM Tasadores WHERE Nombre = '"_s +
@@ -127,7 +127,7 @@ void Formulario::CargaGridTestigosAsociados()
     const QString& tasador = texto(u"cboNombreTasador");
     if (numero == 0 || tasador.isEmpty())
         return;
-    clsConsulta consulta;
+    clsConsulta consulta(servicios_.compartido);
     consulta.AbrirBaseDatosEmpresa(servicios_.compartido.RutaBaseDatos);
     const QString clave = u"Tipo "_s + consulta.sUnion() + u"'#'"_s + consulta.sUnion();
     const ConjuntoResultados filas = consulta.Instantanea2(
@@ -155,7 +155,7 @@ void Formulario::CargaGridImagenesAsociadas()
     const qint32 numero = servicios_.compartido.NumeroTasacionActual;
     const QString& tasador = texto(u"cboNombreTasador");
     if (numero != 0 && !tasador.isEmpty()) {
-        clsConsulta consulta;
+        clsConsulta consulta(servicios_.compartido);
         consulta.AbrirBaseDatosEmpresa(servicios_.compartido.RutaBaseDatos);
         AñadirFilas(rejilla,
                     consulta.Instantanea2(

@@ -295,6 +295,26 @@ TEST_F(AplicacionTest, TheReportComesUpInTheViewer)
     aplicacion->EjecutarOrden(OrdenPaleta::CerrarVisor);
 }
 
+TEST_F(AplicacionTest, AChangeOfCurrencyShowsInTheOpenFormAtOnce)
+{
+    Arrancar();
+    UnPisoGuardado();
+    pantalla.guion[u"Opciones"_s] = [](Ventana& v) {
+        v.campo(u"Text6").setText(u"Kr"_s);
+        v.campo(u"Text7").setText(u"0"_s);
+        v.boton(u"cmdOK").Pulsar();
+    };
+    aplicacion->EjecutarOrden(OrdenPaleta::Opciones);
+    EXPECT_EQ(aplicacion->compartido().FormatoMoneda, u"###,###,##0"_s);
+    int rotulos = 0;
+    for (const EtiquetaMoneda& fila : EtiquetasMoneda()) {
+        const QString& rotulo = forma().control(fila.nombre).Caption();
+        EXPECT_EQ(rotulo, fila.porMetro ? u"Kr/m²"_s : u"Kr"_s);
+        ++rotulos;
+    }
+    EXPECT_EQ(rotulos, 6);
+}
+
 TEST_F(AplicacionTest, AFailureIsToldWithItsSqlAndSheMayGoOn)
 {
     Arrancar();

@@ -1,0 +1,20 @@
+#include "shell/application.h"
+#include "ui/application.h"
+#include "ui/capture.h"
+#include "ui/desktop.h"
+#include "ui/dialogs.h"
+#include "ui/machine.h"
+
+int main(int argc, char* argv[])
+{
+    valmerix::AplicacionQt qt(argc, argv);
+    valmerix::DialogosQt dialogos;
+    valmerix::RelojQt reloj;
+    valmerix::SistemaQt sistema;
+    valmerix::CapturaQt captura;
+    valmerix::PantallaQt pantalla;
+    valmerix::Aplicacion valmerix({dialogos, reloj, sistema, pantalla, captura});
+    qt.setInforme([&valmerix](const std::exception& fallo) { valmerix.InformarFallo(fallo); });
+    valmerix.Arrancar();
+    return valmerix::AplicacionQt::exec();
+}
