@@ -26,6 +26,8 @@ struct EstadoCompartido
 
     /// Told of every SQL text just before it runs, with the name of its database; for tests and diagnosis.
     std::function<void(const QString& base, const QString& sql)> alEjecutarSQL;
+    /// Run before the first write of each connection to "Empresa"; it must not throw.
+    std::function<void()> antesDeEscribir;
 };
 
 } // namespace valmerix

@@ -23,7 +23,9 @@ using namespace Qt::StringLiterals;
 
 Aplicacion::Aplicacion(const Puertos& puertos)
     : puertos_(puertos)
+    , copia_(compartido_, puertos.dialogos, puertos.reloj)
 {
+    compartido_.antesDeEscribir = [this] { copia_.AntesDeEscribir(); };
 }
 
 Aplicacion::~Aplicacion() = default;

@@ -3,6 +3,7 @@
 #include "common/ports.h"
 #include "report/viewer_environment.h"
 #include "settings/options.h"
+#include "shell/daily_backup.h"
 #include "shell/minimized_bars.h"
 #include "shell/toolbar.h"
 #include "store/program_options.h"
@@ -114,6 +115,7 @@ private:
     EstadoCalculo calculo_;
     FrasesInforme frases_;
     OpcionesPrograma opciones_;
+    CopiaDiaria copia_;
     std::vector<std::unique_ptr<Ventana>> retiradas_;
     std::unique_ptr<Form1> inicio_;
     std::unique_ptr<Ficha> ficha_;

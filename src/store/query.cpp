@@ -3,6 +3,8 @@
 #include "store/connection.h"
 #include "store/statement_check.h"
 
+#include <utility>
+
 namespace valmerix {
 
 using namespace Qt::StringLiterals;
@@ -53,6 +55,13 @@ void clsConsulta::Avisar(const QString& base, const QString& sql) const
         compartido_->alEjecutarSQL(base, sql);
 }
 
+void clsConsulta::AvisarDeLaPrimeraEscritura()
+{
+    if (std::exchange(haEscrito_, true) || compartido_ == nullptr || !compartido_->antesDeEscribir)
+        return;
+    compartido_->antesDeEscribir();
+}
+
 ConjuntoResultados clsConsulta::Instantanea2(const QString& base, const QString& sql)
 {
     Conexion& abierta = conexion(base, sql);
@@ -65,6 +74,8 @@ void clsConsulta::EjecutarSentencia(const QString& base, const QString& sql)
 {
     Conexion& abierta = conexion(base, sql);
     const std::vector<std::string> comprobadas = ComprobarEscritura(sql);
+    if (&abierta == empresa_.get())
+        AvisarDeLaPrimeraEscritura();
     Avisar(base, sql);
     abierta.Escribir(sql, comprobadas);
 }

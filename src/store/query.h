@@ -68,10 +68,12 @@ public:
 private:
     Conexion& conexion(const QString& base, const QString& sql) const;
     void Avisar(const QString& base, const QString& sql) const;
+    void AvisarDeLaPrimeraEscritura();
 
     const EstadoCompartido* compartido_ = nullptr;
     std::unique_ptr<Conexion> empresa_;
     std::unique_ptr<Conexion> ejercicio_;
+    bool haEscrito_ = false;
 };
 
 } // namespace AccesoDatos
