@@ -15,11 +15,28 @@
 #include "valuation/kind_descriptions.h"
 
 #include <QFileInfo>
+#include <algorithm>
 #include <stdexcept>
 
 namespace valmerix {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize kTamañoCaso(1080, 740);
+constexpr int kAnchoPaleta = 160;
+
+/// Centred horizontally together with the toolbar at its right edge.
+QRect LugarDelCaso(const QRect& area)
+{
+    const QSize ventana = kTamañoCaso.boundedTo(area.size());
+    return {{std::max(0, (area.width() - ventana.width() - kAnchoPaleta) / 2),
+             std::max(0, (area.height() - ventana.height()) / 2)},
+            ventana};
+}
+
+} // namespace
 
 Aplicacion::Aplicacion(const Puertos& puertos)
     : puertos_(puertos)
@@ -101,6 +118,7 @@ void Aplicacion::CrearFormulario(const QString& letra)
     formulario_ = std::make_unique<Formulario>(
         *descripcion, ServiciosCaso{compartido_, calculo_, frases_, opciones_, puertos_.dialogos,
                                     puertos_.reloj, puertos_.sistema, *this});
+    formulario_->Mover(LugarDelCaso(puertos_.pantalla.area()));
     formulario_->Load();
 }
 
