@@ -90,3 +90,5 @@ BENCHMARK(EscribirElRTF);
 } // namespace
 
 } // namespace valmerix
+
+BENCHMARK_MAIN();
