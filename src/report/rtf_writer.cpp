@@ -3,6 +3,8 @@
 #include "report/report_error.h"
 
 #include <QSaveFile>
+#include <algorithm>
+#include <array>
 
 namespace valmerix {
 
@@ -31,9 +33,31 @@ QByteArrayView OrdenDe(Alineacion alineacion)
     return "\\ql";
 }
 
-void EscribirUnidad(QByteArray& rtf, QChar c)
+// What windows-1252 has between 0x80 and 0x9F, in its order; 0 where it has nothing.
+constexpr std::array<char16_t, 32> kCp1252 = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                              0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
+                                              0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                              0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+
+/// The character in the document's code page, "?" when it has none there.
+int EnCp1252(char16_t u)
 {
-    const char16_t u = c.unicode();
+    if (u < 0x80 || (u >= 0xA0 && u <= 0xFF)) {
+        return u;
+    }
+    const auto sitio = std::find(kCp1252.begin(), kCp1252.end(), u);
+    return sitio == kCp1252.end() ? '?' : 0x80 + static_cast<int>(sitio - kCp1252.begin());
+}
+
+/// As a Unicode escape. The number is signed; readers that do not know it take the fallback behind it, which
+/// some of them only find when it is a hexadecimal one.
+void EscribirEscape(QByteArray& rtf, char16_t u)
+{
+    rtf += "\\u" + QByteArray::number(static_cast<qint16>(u)) + "\\'" + QByteArray::number(EnCp1252(u), 16);
+}
+
+void EscribirUnidad(QByteArray& rtf, char16_t u)
+{
     if (u == u'\\' || u == u'{' || u == u'}') {
         rtf += '\\';
         rtf += static_cast<char>(u);
@@ -42,9 +66,7 @@ void EscribirUnidad(QByteArray& rtf, QChar c)
     } else if (u >= 0x20 && u < 0x7F) {
         rtf += static_cast<char>(u);
     } else if (u >= 0x80) {
-        // The number is signed; readers that do not know the escape take the fallback behind it.
-        rtf += "\\u" + QByteArray::number(static_cast<qint16>(u));
-        rtf += u >= 0xA0 && u <= 0xFF ? "\\'" + QByteArray::number(u, 16) : QByteArray("?");
+        EscribirEscape(rtf, u);
     }
 }
 
@@ -58,7 +80,7 @@ public:
 
     QByteArray Escribir()
     {
-        rtf_.reserve(texto_.Text().size() * 2 + 1024);
+        rtf_.reserve(texto_.Text().size() * 4 + 1024);
         rtf_ += kCabecera;
         AbrirParrafo();
         const QString& todo = texto_.Text();
@@ -68,7 +90,7 @@ public:
                 rtf_ += "\\par\n";
                 AbrirParrafo();
             } else {
-                EscribirUnidad(rtf_, todo[i]);
+                EscribirCaracter(i);
             }
         }
         rtf_ += kPie;
@@ -82,6 +104,18 @@ private:
         rtf_ += OrdenDe(texto_.alineacion(parrafo_++));
         rtf_ += kCuerpo;
         rtf_ += ' ';
+    }
+
+    // Word processors meddle with runs of bare blanks, so these are escaped.
+    void EscribirCaracter(int i)
+    {
+        const QString& todo = texto_.Text();
+        const auto hayBlanco = [&](int j) { return j >= 0 && j < todo.size() && todo[j] == u' '; };
+        if (hayBlanco(i) && (hayBlanco(i - 1) || hayBlanco(i + 1))) {
+            EscribirEscape(rtf_, u' ');
+        } else {
+            EscribirUnidad(rtf_, todo[i].unicode());
+        }
     }
 
     void AjustarNegrita(int posicion)

@@ -83,7 +83,8 @@ private:
     {
         if (palabra == "u") {
             Poner(static_cast<char16_t>(numero.toInt()));
-            i_ += rtf_[i_] == '\\' ? 4 : 1; // the fallback
+            EXPECT_EQ(rtf_.mid(i_, 2), "\\'");
+            i_ += 4; // the fallback
         } else if (palabra == "tab") {
             Poner(u'\t');
         } else if (palabra == "par") {
@@ -154,6 +155,20 @@ TEST(RtfWriter, BoldMayReachTheEndOfTheText)
 TEST(RtfWriter, AnEmptyTextIsAnEmptyPage)
 {
     ComprobarVuelta(TextoEnriquecido(u"Texto"_s));
+}
+
+TEST(RtfWriter, EveryFallbackIsTheCharacterOfTheCodePage)
+{
+    TextoEnriquecido texto(u"Texto"_s);
+    texto.setText(u"ñ€’ž中"_s);
+    EXPECT_TRUE(TextoRTF(texto).contains("\\u241\\'f1\\u8364\\'80\\u8217\\'92\\u382\\'9e\\u20013\\'3f}"));
+}
+
+TEST(RtfWriter, RunsOfBlanksAreEscapedAndSingleOnesAreNot)
+{
+    TextoEnriquecido texto(u"Texto"_s);
+    texto.setText(u"a b  c "_s);
+    EXPECT_TRUE(TextoRTF(texto).contains(" a b\\u32\\'20\\u32\\'20c }"));
 }
 
 TEST(RtfWriter, ControlCharactersAreLeftOut)
