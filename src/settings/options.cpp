@@ -171,9 +171,7 @@ void Opciones::ConectarLimite(QStringView nombre, int limite)
 
 void Opciones::Load()
 {
-    QRect sitio = lugar();
-    sitio.moveLeft((pantalla_.area().width() - sitio.width()) / 2);
-    Mover(sitio);
+    Centrar(*this, pantalla_);
     try {
         AccesoDatos::clsConsulta consulta(compartido_);
         consulta.AbrirBaseDatosEmpresa(compartido_.RutaBaseDatos);

@@ -25,6 +25,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize kTamañoCaso(1080, 740);
+constexpr QSize kTamañoFicha(860, 680);
 constexpr int kAnchoPaleta = 160;
 
 /// Centred horizontally together with the toolbar at its right edge.
@@ -287,6 +288,8 @@ void Aplicacion::LimpiarEstado()
 void Aplicacion::MostrarFicha()
 {
     CargarFicha();
+    ficha_->Mover(QRect(QPoint(), kTamañoFicha));
+    Centrar(*ficha_, puertos_.pantalla);
     puertos_.pantalla.MostrarModal(*ficha_);
 }
 

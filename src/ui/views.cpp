@@ -5,6 +5,7 @@
 #include "ui/chooser_view.h"
 #include "ui/editor_view.h"
 #include "ui/generic_view.h"
+#include "ui/options_view.h"
 #include "ui/progress_view.h"
 #include "ui/question_view.h"
 #include "ui/record_view.h"
@@ -39,6 +40,7 @@ constexpr VistaDeVentana kVistas[] = {
     {u"Visor", Nueva<VistaVisor>},
     {u"Calculos", Nueva<VistaProgreso>},
     {u"Ficha", Nueva<VistaFicha>},
+    {u"Opciones", Nueva<VistaOpciones>},
     {u"SALIDA", Nueva<VistaPregunta>},
     {u"Reinicio", Nueva<VistaPregunta>},
     {u"Observaciones", Nueva<VistaEditor>},

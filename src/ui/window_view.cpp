@@ -85,8 +85,11 @@ QRect VistaVentana::LugarPosible(QRect pedido) const
     const QPoint centro = pedido.center();
     const bool crece = !pedido.isEmpty() && propio != pedido.size();
     pedido.setSize(propio.boundedTo(screen()->availableSize()));
-    if (crece) // a window that was placed for a smaller size keeps its centre
+    if (crece) { // a window that was placed for a smaller size keeps its centre, as far as the screen lets it
         pedido.moveCenter(centro);
+        const QPoint borde = screen()->availableGeometry().topLeft();
+        pedido.moveTopLeft({std::max(pedido.x(), borde.x()), std::max(pedido.y(), borde.y())});
+    }
     return pedido;
 }
 
