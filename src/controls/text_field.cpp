@@ -83,8 +83,11 @@ int CampoTexto::FiltrarTecla(int tecla)
     return tecla;
 }
 
-QString CampoTexto::FiltrarTexto(const QString& texto)
+QString CampoTexto::FiltrarTexto(const QString& pegado)
 {
+    QString texto = pegado;
+    if (texto.size() > 1)
+        Q_EMIT Paste(texto);
     QString resultado;
     resultado.reserve(texto.size());
     for (const QChar c : texto) {

@@ -40,7 +40,7 @@ public:
     /// What the key filters leave of one typed character: 0 when it is swallowed.
     int FiltrarTecla(int tecla);
     /// What the filters leave of a pasted text, character by character.
-    QString FiltrarTexto(const QString& texto);
+    QString FiltrarTexto(const QString& pegado);
 
     /// One key of the user: 8 deletes, any other character replaces the selection; in a masked field digits
     /// fill the blanks one by one. Nothing while locked or disabled, or when the filters swallow the key or
@@ -56,6 +56,9 @@ Q_SIGNALS:
     void Change();
     /// A handler may change the key or set it to 0, which swallows it.
     void KeyPress(int& tecla);
+    /// A text of several characters is about to be pasted; a handler may rewrite it before the key filters
+    /// see its characters.
+    void Paste(QString& texto);
     /// The selection was set by a procedure.
     void SeleccionCambiada();
 

@@ -135,6 +135,7 @@ bool Aplicacion::AbrirCaso(const QString& clave)
     try {
         CrearFormulario(caso->Tipo);
         CargarCaso(*formulario_, compartido_, *caso);
+        formulario_->Enfocar(u"SSTab1"); // some fields take the focus while they are filled
     } catch (const std::exception&) {
         formulario_.reset(); // half loaded: nothing of it may be saved; the start window stays
         LimpiarEstado();

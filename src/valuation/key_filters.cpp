@@ -1,5 +1,9 @@
 #include "valuation/key_filters.h"
 
+#include "common/number_reading.h"
+
+#include <algorithm>
+
 namespace valmerix {
 
 namespace {
@@ -46,6 +50,16 @@ void FiltroDecimal(int& TeclaPulsada, Sistema& sistema)
         FiltroEntero(TeclaPulsada, sistema);
 }
 
+void QuitarPuntosDeMiles(QString& pegado)
+{
+    const QString entera = pegado.trimmed().section(u',', 0, 0);
+    const QStringList grupos = entera.split(u'.');
+    const bool deTresEnTres =
+        std::all_of(grupos.begin() + 1, grupos.end(), [](const QString& grupo) { return grupo.size() == 3; });
+    if (grupos.size() > 1 && deTresEnTres && EsNumero(pegado))
+        pegado.remove(u'.');
+}
+
 std::span<const ReglaTecla> ReglasTecla()
 {
     return kReglasTecla;
@@ -54,9 +68,13 @@ std::span<const ReglaTecla> ReglasTecla()
 void ConectarFiltros(Ventana& ventana, Sistema& sistema)
 {
     for (const ReglaTecla& regla : kReglasTecla) {
-        if (auto* campo = dynamic_cast<CampoTexto*>(ventana.buscar(regla.campo)))
-            QObject::connect(campo, &CampoTexto::KeyPress, &ventana,
-                             [&sistema, filtro = regla.filtro](int& tecla) { filtro(tecla, sistema); });
+        auto* campo = dynamic_cast<CampoTexto*>(ventana.buscar(regla.campo));
+        if (!campo)
+            continue;
+        QObject::connect(campo, &CampoTexto::KeyPress, &ventana,
+                         [&sistema, filtro = regla.filtro](int& tecla) { filtro(tecla, sistema); });
+        if (regla.filtro == FiltroDecimal)
+            QObject::connect(campo, &CampoTexto::Paste, &ventana, QuitarPuntosDeMiles);
     }
 }
 

@@ -11,6 +11,10 @@ namespace valmerix {
 void FiltroEntero(int& TeclaPulsada, Sistema& sistema);
 void FiltroDecimal(int& TeclaPulsada, Sistema& sistema);
 
+/// A pasted number loses the dots that group its thousands, which the key filter would turn into commas:
+/// "1.234,56" gives "1234,56". Anything else stays as it is.
+void QuitarPuntosDeMiles(QString& pegado);
+
 struct ReglaTecla
 {
     QStringView campo;

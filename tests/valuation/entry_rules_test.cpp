@@ -37,6 +37,22 @@ TEST(FiltroDeTeclas, ASecondCommaPassesAndEndsTheNumberWhenItIsRead)
     EXPECT_EQ(piso.texto(u"BoxCc"), u"1"_s);
 }
 
+TEST(FiltroDeTeclas, APastedNumberKeepsItsThousands)
+{
+    PisoDePrueba piso;
+    const std::pair<QString, QString> casos[] = {
+        {u"1.234,56"_s, u"1234,56"_s}, {u"1.234"_s, u"1234"_s},  {u"12.345.678"_s, u"12345678"_s},
+        {u" 2.500 "_s, u"2500"_s},     {u"1.25"_s, u"1,25"_s},   {u"12.34,5"_s, u"12,34,5"_s},
+        {u"1.5 m"_s, u"1,5"_s},        {u"0,750"_s, u"0,750"_s}, {u"."_s, u","_s},
+    };
+    for (const auto& [pegado, queda] : casos) {
+        piso.form.campo(u"BoxSolar").setText({});
+        piso.form.campo(u"BoxSolar").setMaxLength(0);
+        piso.form.campo(u"BoxSolar").Pegar(pegado);
+        EXPECT_EQ(piso.texto(u"BoxSolar"), queda) << pegado.toStdString();
+    }
+}
+
 TEST(FiltroDeTeclas, BackspacePassesBoth)
 {
     FakeSistema sistema;
