@@ -7,6 +7,7 @@ cd "$(dirname "$0")/.."
 samples=${1:-build/muestras}
 
 scripts/install_packages.sh run
+mkdir -p build
 command -v ccache >/dev/null && export CMAKE_CXX_COMPILER_LAUNCHER=ccache
 cmake --preset release >build/configure.txt 2>&1 || { cat build/configure.txt; exit 1; }
 cmake --build --preset release --target valmerix valmerix-informe valmerix-muestras valmerix-fotos

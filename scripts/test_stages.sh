@@ -67,6 +67,13 @@ stage_format() {
 
 stage_dev() { build dev && LC_ALL=C.UTF-8 run_ctest "tests" dev; }
 
+# the walk of a whole case once more, in a window system
+stage_xvfb() {
+    build dev || return
+    check "walk under Xvfb" env QT_QPA_PLATFORM=xcb xvfb-run -a -s "-screen 0 1600x1200x24" \
+        build/dev/tests/walk/test_walk
+}
+
 # the same tests under the sanitizers, in the other locale that every machine has
 stage_asan() { build asan && LC_ALL=C run_ctest "tests under sanitizers" asan -E '^tools\.'; }
 
