@@ -26,7 +26,8 @@ while IFS='|' read -r tipo valuer number; do
     report="$samples/informes/$tipo $number $valuer"
     "$bin/valmerix-informe" "$samples/valmerix.mdb" "$tipo" "$valuer" "$number" --rtf "$report.rtf" >"$report.txt"
 done < <(sqlite3 "$samples/valmerix.mdb" 'SELECT Tipo, NombreTasador, NumeroTasacion FROM Viviendas ORDER BY 3')
-QT_QPA_PLATFORM=offscreen "$bin/valmerix-fotos" "$samples/valmerix.mdb" "$samples/fotos"
+QT_QPA_PLATFORM=offscreen:configfile=tools/pantalla.json \
+    "$bin/valmerix-fotos" "$samples/valmerix.mdb" "$samples/fotos" 2>build/fotos.txt || { cat build/fotos.txt; exit 1; }
 
 echo "No display here, so instead of the program:"
 echo "  sample database  $samples/valmerix.mdb"
