@@ -1,5 +1,6 @@
 #include "common/spanish_text.h"
 
+#include <QtEndian>
 #include <array>
 #include <cstring>
 
@@ -171,6 +172,22 @@ int CompararPorNiveles(Lector a, Lector b)
     return porCaja;
 }
 
+// Bytes that both begin with and that cannot weigh upon what follows: less the last whole character, which a
+// combining mark may go with.
+size_t ComienzoComun(std::string_view a, std::string_view b)
+{
+    const size_t limite = std::min(a.size(), b.size());
+    size_t n = 0;
+    while (n < limite && a[n] == b[n])
+        ++n;
+    for (int caracteres = 0; n > 0 && caracteres < 2; ++caracteres) {
+        --n;
+        while (n > 0 && (static_cast<unsigned char>(a[n]) & 0xC0U) == 0x80)
+            --n;
+    }
+    return n;
+}
+
 void AñadirUtf8(char32_t c, std::string& destino)
 {
     const auto byte = [&](char32_t b) { destino.push_back(static_cast<char>(b)); };
@@ -233,21 +250,73 @@ int CompararEspañol(std::string_view utf8A, std::string_view utf8B)
 {
     if (utf8A == utf8B)
         return 0;
-    const int niveles = CompararPorNiveles(LectorUtf8(utf8A), LectorUtf8(utf8B));
+    const size_t comun = ComienzoComun(utf8A, utf8B);
+    const int niveles = CompararPorNiveles(LectorUtf8(utf8A.substr(comun)), LectorUtf8(utf8B.substr(comun)));
     return niveles != 0 ? niveles : utf8A.compare(utf8B);
 }
 
-void AñadirClaveDeOrden(QStringView texto, std::string& clave)
+void OrdenPorClaves::Añadir(QStringView texto)
 {
+    Clave clave;
+    clave.inicio = bytes_.size();
+    clave.indice = claves_.size();
     LectorUtf16 lector(texto);
     while (const unsigned peso = SiguientePeso(lector)) {
         if (peso <= 0x80) {
-            clave.push_back(static_cast<char>(peso));
+            bytes_.push_back(static_cast<char>(peso));
             continue;
         }
-        clave.push_back(static_cast<char>(0xFF));
-        for (const unsigned corrimiento : {16U, 8U, 0U})
-            clave.push_back(static_cast<char>((peso >> corrimiento) & 0xFFU));
+        bytes_.push_back(static_cast<char>(0xFF));
+        for (const unsigned corrimiento : {14U, 7U, 0U}) // never a zero byte
+            bytes_.push_back(static_cast<char>(0x80U | ((peso >> corrimiento) & 0x7FU)));
+    }
+    clave.fin = bytes_.size();
+    claves_.push_back(clave);
+}
+
+quint64 OrdenPorClaves::Trozo(const Clave& clave, size_t desde) const
+{
+    std::array<char, sizeof(quint64)> trozo{};
+    if (clave.inicio + desde < clave.fin) {
+        const size_t quedan = clave.fin - clave.inicio - desde;
+        std::memcpy(trozo.data(), bytes_.data() + clave.inicio + desde, std::min(quedan, trozo.size()));
+    }
+    return qFromBigEndian<quint64>(trozo.data());
+}
+
+void OrdenPorClaves::Ordenar()
+{
+    std::vector<Tramo> pendientes{{0, claves_.size(), 0}};
+    while (!pendientes.empty()) {
+        const Tramo tramo = pendientes.back();
+        pendientes.pop_back();
+        OrdenarTramo(tramo, pendientes);
+    }
+    orden.reserve(claves_.size());
+    for (const Clave& clave : claves_)
+        orden.push_back(clave.indice);
+}
+
+// Sorts by the eight bytes at hand; each run of equals waits for the next eight.
+void OrdenPorClaves::OrdenarTramo(const Tramo& tramo, std::vector<Tramo>& pendientes)
+{
+    for (size_t i = tramo.primero; i < tramo.ultimo; ++i)
+        claves_[i].trozo = Trozo(claves_[i], tramo.desde);
+    const auto lugar = [&](size_t i) { return claves_.begin() + static_cast<std::ptrdiff_t>(i); };
+    std::sort(lugar(tramo.primero), lugar(tramo.ultimo), [](const Clave& a, const Clave& b) {
+        return a.trozo != b.trozo ? a.trozo < b.trozo : a.indice < b.indice;
+    });
+    for (size_t i = tramo.primero; i < tramo.ultimo;) {
+        const quint64 trozo = claves_[i].trozo;
+        size_t fin = i + 1;
+        while (fin < tramo.ultimo && claves_[fin].trozo == trozo)
+            ++fin;
+        const bool acabadas = (trozo & 0xFFU) == 0; // no key holds a zero byte
+        if (fin - i > 1 && acabadas)
+            empates.emplace_back(i, fin);
+        else if (fin - i > 1)
+            pendientes.push_back({i, fin, tramo.desde + sizeof(quint64)});
+        i = fin;
     }
 }
 
