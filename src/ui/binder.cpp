@@ -121,7 +121,8 @@ void Enlazador::AtarFoco(Control& control, QWidget* widget)
 void Enlazador::Mostrar(const Control& control, QWidget& widget)
 {
     MostrarTitulo(control, widget);
-    widget.setToolTip(control.ToolTip());
+    const QString atajo = widget.property("atajo").toString();
+    widget.setToolTip(atajo.isEmpty() ? control.ToolTip() : control.ToolTip() + u" ("_s + atajo + u')');
     widget.setEnabled(control.Enabled());
     if (widget.parentWidget())
         widget.setVisible(control.Visible());

@@ -27,6 +27,7 @@ public:
 
 private:
     VistaVentana& VistaDe(Ventana& ventana);
+    VistaVentana* Principal() const;
     void Retirar(const QObject* ventana);
 
     struct Borrador

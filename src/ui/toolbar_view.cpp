@@ -1,5 +1,6 @@
 #include "ui/toolbar_view.h"
 
+#include "ui/application.h"
 #include "ui/caption_bar.h"
 #include "ui/icons.h"
 #include "ui/kind_colours.h"
@@ -9,6 +10,7 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QShortcut>
 #include <QToolButton>
 
 namespace valmerix {
@@ -18,13 +20,21 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kAltoTitulo = 42;
-constexpr int kIcono = 22;
+constexpr QSize kIcono(30, 22); // wider than high: air between picture and words
 constexpr int kAnchoOrden = 152;
 
-// Pictures by the index of Botonera.
-constexpr QStringView kIconos[] = {
-    u"informe",  u"cerrar_visor", u"opciones", u"reinicio",  u"abrir_filtros", u"guardar",
-    u"importar", u"exportar",     u"ayuda",    u"extension", u"listados",      u"testigos",
+struct OrdenVisible
+{
+    QStringView icono;
+    QStringView atajo;
+};
+
+// By the index of Botonera.
+constexpr OrdenVisible kOrdenes[] = {
+    {u"informe", u"F9"},       {u"cerrar_visor", u"Shift+F9"}, {u"opciones", u"F12"},
+    {u"reinicio", u"Ctrl+R"},  {u"abrir_filtros", u"Ctrl+O"},  {u"guardar", u"Ctrl+S"},
+    {u"importar", u"Ctrl+I"},  {u"exportar", u"Ctrl+E"},       {u"ayuda", u"F1"},
+    {u"extension", u"Ctrl+M"}, {u"listados", u"Ctrl+L"},       {u"testigos", u"Ctrl+T"},
 };
 
 struct GrupoOrdenes
@@ -122,15 +132,35 @@ QWidget* VistaPaleta::Titulo()
 QWidget* VistaPaleta::CrearOrden(int indice)
 {
     auto& orden = ventana()->boton(Ventana::Indice(u"Botonera", indice));
+    const OrdenVisible& visible = kOrdenes[indice];
     auto* boton = new QToolButton(this);
     boton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    boton->setIcon(Icono(kIconos[indice].toString()));
-    boton->setIconSize(QSize(kIcono, kIcono));
+    boton->setIcon(Icono(visible.icono.toString()));
+    boton->setIconSize(kIcono);
     boton->setAutoRaise(true);
     boton->setFocusPolicy(Qt::NoFocus);
     boton->setFixedWidth(kAnchoOrden);
-    enlazador().AtarBoton(orden, boton);
+    boton->setProperty("atajo", visible.atajo.toString());
+    enlazador().Atar(orden, boton);
+    connect(boton, &QToolButton::clicked, &orden, [this, &orden] { Ejecutar(orden); });
+    auto* atajo = new QShortcut(QKeySequence(visible.atajo.toString()), this);
+    atajo->setContext(Qt::ApplicationShortcut);
+    connect(atajo, &QShortcut::activated, boton, [boton] { boton->click(); });
     return boton;
+}
+
+void VistaPaleta::Ejecutar(Boton& orden)
+{
+    const auto* activa = qobject_cast<VistaVentana*>(QApplication::activeWindow());
+    const QPointer<Ventana> caso(activa && activa != this ? activa->ventana() : nullptr);
+    const QPointer<Control> campo(caso ? caso->conFoco() : nullptr);
+    Protegido([&] {
+        if (caso)
+            caso->Enfocar(nullptr);
+        orden.Pulsar();
+    });
+    if (caso && caso->abierta() && caso->visible() && campo && !caso->conFoco())
+        Protegido([&] { caso->Enfocar(campo); });
 }
 
 void VistaPaleta::paintEvent(QPaintEvent* /*evento*/)
