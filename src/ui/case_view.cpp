@@ -129,6 +129,8 @@ QWidget* VistaCaso::Pagina(int pagina)
             continue;
         paneles.push_back(constructor.Panel(seccion, cuerpo));
         paneles.back()->setProperty("crece", Crece(seccion));
+        paneles.back()->setSizePolicy(QSizePolicy::Preferred,
+                                      Crece(seccion) ? QSizePolicy::Expanding : QSizePolicy::Maximum);
     }
     Disponer(cuerpo, paneles);
     zona->setWidget(cuerpo);
@@ -137,13 +139,16 @@ QWidget* VistaCaso::Pagina(int pagina)
 
 void VistaCaso::DestacarCalculo()
 {
-    auto* calcular = qobject_cast<QPushButton*>(enlazador().de(u"SSCommand7"));
-    if (!calcular)
-        return;
-    calcular->setDefault(true);
-    QFont letra = calcular->font();
-    letra.setBold(true);
-    calcular->setFont(letra);
+    for (const QStringView nombre : {u"SSCommand7", u"BoxTotal"}) {
+        QWidget* widget = enlazador().de(nombre);
+        if (!widget)
+            continue;
+        QFont letra = widget->font();
+        letra.setBold(true);
+        widget->setFont(letra);
+    }
+    if (auto* calcular = qobject_cast<QPushButton*>(enlazador().de(u"SSCommand7")))
+        calcular->setDefault(true);
 }
 
 void VistaCaso::PonerMnemonicos()

@@ -31,6 +31,9 @@ constexpr int kHolguraCampo = 18; // pixels: frame and margins around the letter
 constexpr int kAltoTabla = 190;
 constexpr int kCasillasSeguidas = 6; // as many check boxes stand in two columns
 
+// The label that heads the column of amounts at the right.
+constexpr QStringView kCabeceraDeImportes = u"EtiquetaValorEstimado";
+
 struct IconoDeBoton
 {
     QStringView nombre;
@@ -86,6 +89,14 @@ void FijarAncho(QWidget& widget, QStringView nombre)
     const int letras = LetrasDe(nombre);
     if (letras > 0)
         widget.setFixedWidth(widget.fontMetrics().horizontalAdvance(u'0') * letras + kHolguraCampo);
+}
+
+// A free text without a caption says in grey what it is for.
+void PonerPista(QWidget& widget, const ControlForma& fila, QStringView pista)
+{
+    auto* linea = qobject_cast<QLineEdit*>(&widget);
+    if (linea && fila.titulo.isEmpty() && fila.clase == ClaseControl::Texto && LetrasDe(fila.nombre) == 0)
+        linea->setPlaceholderText(pista.toString());
 }
 
 } // namespace
@@ -158,11 +169,24 @@ void ConstructorFormulario::Linea(Filas fila, QGridLayout& rejilla, QWidget* pan
     if (primero.clase == ClaseControl::Casilla) {
         rejilla.addWidget(widget, linea, kColumnaTitulo);
     } else {
-        rejilla.addWidget(enlazador_.CrearEtiqueta(primero.nombre, panel), linea, kColumnaTitulo);
+        rejilla.addWidget(Rotulo(primero, panel), linea, kColumnaTitulo);
         caja->addWidget(widget);
     }
     Resto(fila.subspan(1), *caja, panel);
+    if (primero.clase == ClaseControl::Casilla && primero.titulo.isEmpty())
+        PonerPista(*enlazador_.de(fila[1].nombre), fila[1], primero.ayuda);
     rejilla.addLayout(caja, linea, kColumnaCampo);
+}
+
+QWidget* ConstructorFormulario::Rotulo(const ControlForma& fila, QWidget* panel)
+{
+    QLabel* rotulo = enlazador_.CrearEtiqueta(fila.nombre, panel);
+    if (!fila.titulo.isEmpty())
+        return rotulo;
+    // Without a caption of its own the field is called by what its help says.
+    rotulo->setText(NombreLegible(fila) + u':');
+    rotulo->show();
+    return rotulo;
 }
 
 void ConstructorFormulario::Resto(Filas fila, QHBoxLayout& caja, QWidget* panel)
@@ -186,9 +210,9 @@ void ConstructorFormulario::LineaSuelta(Filas fila, QGridLayout& rejilla, QWidge
     const int linea = rejilla.rowCount() - (primero.punto >= 0 ? 1 : 0);
     if (auto* etiqueta = qobject_cast<QLabel*>(widget))
         etiqueta->setWordWrap(true);
-    const bool boton = primero.clase == ClaseControl::Boton;
+    const bool aLaDerecha = primero.clase == ClaseControl::Boton || primero.nombre == kCabeceraDeImportes;
     rejilla.addWidget(widget, linea, kColumnaTitulo, 1, kColumnas - 1,
-                      boton ? Qt::AlignRight : Qt::Alignment());
+                      aLaDerecha ? Qt::AlignRight : Qt::Alignment());
     const bool crece = primero.clase == ClaseControl::Rejilla || primero.clase == ClaseControl::TextoLargo ||
                        primero.clase == ClaseControl::Imagen;
     rejilla.setRowStretch(linea, crece ? 1 : 0);
@@ -199,6 +223,7 @@ void ConstructorFormulario::JuntoALaOpcion(const ControlForma& fila, QWidget* pa
     // The group is the last one that was laid out before the field.
     const auto grupos = panel->findChildren<GrupoBotones*>();
     QWidget* widget = Widget(fila, panel);
+    PonerPista(*widget, fila, fila.ayuda);
     if (!grupos.isEmpty())
         grupos.back()->PonerJunto(fila.opcion, widget);
 }

@@ -28,6 +28,7 @@ private:
     void Casillas(Filas filas, PanelSeccion& panel);
     void Linea(Filas fila, QGridLayout& rejilla, QWidget* panel);
     void LineaSuelta(Filas fila, QGridLayout& rejilla, QWidget* panel);
+    QWidget* Rotulo(const ControlForma& fila, QWidget* panel);
     void JuntoALaOpcion(const ControlForma& fila, QWidget* panel);
     void Resto(Filas fila, QHBoxLayout& caja, QWidget* panel);
     QWidget* Widget(const ControlForma& fila, QWidget* panel);

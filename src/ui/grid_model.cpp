@@ -9,7 +9,7 @@ namespace valmerix {
 
 namespace {
 
-constexpr int kTwipsPorPixel = 15;
+constexpr int kTwipsPorPixel = 12; // our letters are wider than those that the widths were made for
 constexpr int kHolguraFila = 8;
 
 } // namespace

@@ -27,7 +27,10 @@ public:
     {
         QByteArray coloreado = dibujo_;
         coloreado.replace("currentColor", ColorDe(modo).name().toLatin1());
-        QSvgRenderer(coloreado).render(pintor, sitio);
+        const int lado = std::min(sitio.width(), sitio.height());
+        QRect cuadro(0, 0, lado, lado);
+        cuadro.moveCenter(sitio.center());
+        QSvgRenderer(coloreado).render(pintor, cuadro);
     }
 
     QPixmap pixmap(const QSize& tamaño, QIcon::Mode modo, QIcon::State estado) override

@@ -1,6 +1,7 @@
 #include "ui/image_widget.h"
 
 #include "ui/application.h"
+#include "ui/theme.h"
 
 #include <QImageReader>
 #include <QMouseEvent>
@@ -52,9 +53,12 @@ QSize CuadroImagen::sizeHint() const
 
 void CuadroImagen::paintEvent(QPaintEvent* /*evento*/)
 {
-    if (cuadro_.isNull())
-        return;
     QPainter pintor(this);
+    if (cuadro_.isNull()) {
+        pintor.setPen(QPen(ColorLinea(palette()), 1, Qt::DashLine));
+        pintor.drawRect(rect().adjusted(0, 0, -1, -1));
+        return;
+    }
     pintor.setRenderHint(QPainter::SmoothPixmapTransform);
     QRect sitio(QPoint(), cuadro_.size().scaled(size(), llenar_ ? Qt::KeepAspectRatioByExpanding
                                                                 : Qt::KeepAspectRatio));

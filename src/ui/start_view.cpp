@@ -66,7 +66,10 @@ QWidget* VistaInicio::Menu()
     fila->setSpacing(medida::kEntrePaneles);
     fila->addWidget(Tipos(menu));
     fila->addWidget(Guardadas(menu), 1);
-    RepartirMnemonicos(enlazador(), {&ventana()->control(u"cmdAbrir"), &ventana()->control(u"cmdCopiar")});
+    std::vector<Control*> botones{&ventana()->control(u"cmdAbrir"), &ventana()->control(u"cmdCopiar")};
+    for (int i = 0; i < static_cast<int>(std::size(kTipos)); ++i)
+        botones.push_back(&ventana()->control(Ventana::Indice(u"SSCommand2", i)));
+    RepartirMnemonicos(enlazador(), botones);
     return menu;
 }
 
@@ -76,21 +79,17 @@ QWidget* VistaInicio::Tipos(QWidget* padre)
     enlazador().Atar(ventana()->control(u"Picture1"), panel->titulo());
     auto* rejilla = new QGridLayout;
     rejilla->setSpacing(medida::kEntreCampos);
-    std::vector<Control*> botones;
     for (int i = 0; i < static_cast<int>(std::size(kTipos)); ++i) {
         const ColoresTipo colores = ColoresEnPantalla(kTipos[i]);
         Control& tipo = ventana()->control(Ventana::Indice(u"SSCommand2", i));
         auto* boton = new BotonTipo(colores.uno, colores.otro, panel);
-        boton->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         boton->setIcon(Icono(kTipos[i].toString().toLower()));
         boton->setIconSize(QSize(kIconoTipo, kIconoTipo));
         boton->setFixedSize(kBotonTipo);
         boton->setFocusPolicy(Qt::StrongFocus);
         enlazador().AtarBoton(dynamic_cast<Boton&>(tipo), boton);
         rejilla->addWidget(boton, i / kTiposPorFila, i % kTiposPorFila);
-        botones.push_back(&tipo);
     }
-    RepartirMnemonicos(enlazador(), botones, u"BO"_s);
     panel->cuerpo()->addLayout(rejilla);
     panel->cuerpo()->addStretch();
     return panel;
@@ -107,6 +106,7 @@ QWidget* VistaInicio::Guardadas(QWidget* padre)
     botones->addStretch();
     for (const QStringView nombre : {u"cmdAbrir", u"cmdCopiar"})
         botones->addWidget(enlazador().Crear(nombre, panel));
+    qobject_cast<QPushButton*>(enlazador().de(u"cmdAbrir"))->setDefault(true);
     panel->cuerpo()->addLayout(botones);
     return panel;
 }

@@ -73,7 +73,7 @@ ColoresDeMarca MarcaDe(const QStyleOption& o, bool puesta)
     if (puesta)
         return {acento, acento, Vivo(o, QPalette::HighlightedText)};
     const bool viva = Con(o, QStyle::State_HasFocus) || Con(o, QStyle::State_MouseOver);
-    return {viva ? Vivo(o, QPalette::Link) : Vivo(o, QPalette::Dark), Vivo(o, QPalette::Base), acento};
+    return {viva ? Vivo(o, QPalette::Link) : ColorSecundario(o.palette), Vivo(o, QPalette::Base), acento};
 }
 
 } // namespace
@@ -82,7 +82,8 @@ void Campo(const QStyleOption& o, QPainter& p)
 {
     const Pincel pincel(p);
     p.setPen(QPen(LineaDeCampo(o), 1));
-    p.setBrush(o.palette.color(QPalette::Base));
+    // What cannot be edited lies flat in the window's colour.
+    p.setBrush(o.palette.color(Con(o, QStyle::State_ReadOnly) ? QPalette::Window : QPalette::Base));
     p.drawRoundedRect(AlPixel(o.rect), medida::kRadio - 1, medida::kRadio - 1);
 }
 

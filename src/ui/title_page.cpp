@@ -5,7 +5,6 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleOptionToolButton>
 
 namespace valmerix {
 
@@ -134,10 +133,13 @@ void BotonTipo::paintEvent(QPaintEvent* /*evento*/)
         const int margen = medida::kRadio * 3;
         pintor.fillRect(QRect(margen, height() - kFranjaTipo - 5, width() - 2 * margen, kFranjaTipo), mezcla);
     }
-    QStyleOptionToolButton opcion;
-    initStyleOption(&opcion);
-    opcion.rect.adjust(0, 2, 0, -kFranjaTipo - 4);
-    style()->drawControl(QStyle::CE_ToolButtonLabel, &opcion, &pintor, this);
+    const QSize lado = iconSize();
+    const QRect dibujo(QPoint((width() - lado.width()) / 2, (height() - lado.height()) * 2 / 5 - kFranjaTipo),
+                       lado);
+    icon().paint(&pintor, dibujo, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    const QRect letrero(0, dibujo.bottom(), width(), height() - dibujo.bottom() - kFranjaTipo - 5);
+    pintor.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+    pintor.drawText(letrero, Qt::AlignCenter | Qt::TextShowMnemonic, text());
 }
 
 } // namespace valmerix

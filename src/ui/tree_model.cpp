@@ -9,6 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kIcono = 20;
+
 // Folders carry 0, leaves the row of their folder plus one.
 constexpr quintptr kEsCarpeta = 0;
 
@@ -125,6 +127,7 @@ VistaArbol::VistaArbol(Arbol& arbol, QWidget* padre)
     setModel(modelo_);
     setHeaderHidden(true);
     setUniformRowHeights(true);
+    setIconSize(QSize(kIcono, kIcono));
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setExpandsOnDoubleClick(true);
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this, &VistaArbol::Seleccionar);

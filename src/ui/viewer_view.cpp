@@ -22,8 +22,9 @@ namespace {
 
 constexpr QSize kTamaño(1000, 720);
 constexpr int kCapitulos = 11;
-constexpr int kIcono = 20;
-constexpr int kAnchoBusqueda = 190;
+constexpr QSize kIcono(26, 20); // wider than high: air between picture and words
+constexpr int kAnchoBusqueda = 120;
+constexpr int kAnchoBusquedaMayor = 240;
 constexpr int kAnchoCapitulo = 30;
 constexpr qreal kLetraInforme = 11;
 
@@ -78,10 +79,11 @@ QWidget* VistaVisor::Barra()
     fila->addWidget(Capitulos(barra));
     fila->addStretch();
     auto* busqueda = dynamic_cast<CajaLista*>(enlazador().Crear(u"Combo1", barra));
-    busqueda->setFixedWidth(kAnchoBusqueda);
+    busqueda->setMinimumWidth(kAnchoBusqueda);
+    busqueda->setMaximumWidth(kAnchoBusquedaMayor);
     busqueda->lineEdit()->setPlaceholderText(u"Buscar en el informe"_s);
     busqueda->setAccessibleName(u"Texto que se busca"_s);
-    fila->addWidget(busqueda);
+    fila->addWidget(busqueda, 1);
     auto* buscar = qobject_cast<QAbstractButton*>(Orden(u"BttBuscar", u"buscar"_s, barra));
     connect(busqueda->lineEdit(), &QLineEdit::returnPressed, buscar, &QAbstractButton::click);
     fila->addWidget(buscar);
@@ -120,7 +122,7 @@ QWidget* VistaVisor::Orden(QStringView nombre, const QString& icono, QWidget* pa
     boton->setAutoRaise(true);
     boton->setFocusPolicy(Qt::TabFocus);
     boton->setIcon(Icono(icono));
-    boton->setIconSize(QSize(kIcono, kIcono));
+    boton->setIconSize(kIcono);
     enlazador().AtarBoton(ventana()->boton(nombre), boton);
     return boton;
 }

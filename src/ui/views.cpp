@@ -32,22 +32,14 @@ struct VistaDeVentana
 };
 
 constexpr VistaDeVentana kVistas[] = {
-    {u"Piso", Nueva<VistaCaso>},
-    {u"Apto", Nueva<VistaCaso>},
-    {u"Casa", Nueva<VistaCaso>},
-    {u"Form1", Nueva<VistaInicio>},
-    {u"Form2", Nueva<VistaPaleta>},
-    {u"Visor", Nueva<VistaVisor>},
-    {u"Calculos", Nueva<VistaProgreso>},
-    {u"Ficha", Nueva<VistaFicha>},
-    {u"Opciones", Nueva<VistaOpciones>},
-    {u"SALIDA", Nueva<VistaPregunta>},
-    {u"Reinicio", Nueva<VistaPregunta>},
-    {u"Observaciones", Nueva<VistaEditor>},
-    {u"Problema", Nueva<VistaEditor>},
-    {u"Busqueda", Nueva<VistaSelector>},
-    {u"Minimizado", Nueva<VistaBarra>},
-    {u"VisorMin", Nueva<VistaBarra>},
+    {u"Piso", Nueva<VistaCaso>},         {u"Apto", Nueva<VistaCaso>},
+    {u"Casa", Nueva<VistaCaso>},         {u"Form1", Nueva<VistaInicio>},
+    {u"Form2", Nueva<VistaPaleta>},      {u"Visor", Nueva<VistaVisor>},
+    {u"Calculos", Nueva<VistaProgreso>}, {u"Ficha", Nueva<VistaFicha>},
+    {u"Opciones", Nueva<VistaOpciones>}, {u"SALIDA", Nueva<VistaPregunta>},
+    {u"Reinicio", Nueva<VistaPregunta>}, {u"Observaciones", Nueva<VistaEditor>},
+    {u"Problema", Nueva<VistaEditor>},   {u"Busqueda", Nueva<VistaSelector>},
+    {u"Minimizado", Nueva<VistaBarra>},  {u"VisorMin", Nueva<VistaBarra>},
 };
 
 } // namespace

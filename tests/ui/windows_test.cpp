@@ -232,6 +232,32 @@ TEST_F(Windows, TheToolbarStandsAtTheFormsRightEdgeAndBothFitASmallScreen)
     EXPECT_LE(paleta.height(), 760);
 }
 
+TEST_F(Windows, ACommandOfTheToolbarLeavesTheFieldInHandFirst)
+{
+    AbrirPiso();
+    auto& forma = *aplicacion.FormularioActual();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Vista(forma)));
+    Teclear(u"BoxConst", u"100"_s);
+    EXPECT_EQ(forma.texto(u"BoxConst"), u"100");
+    QStringList sucesos;
+    QObject::connect(&forma.control(u"BoxConst"), &Control::LostFocus, &forma,
+                     [&] { sucesos += forma.texto(u"BoxConst"); });
+    Pulsar(Vista(*aplicacion.paleta()), u"Botonera(1)"_s);
+    EXPECT_EQ(sucesos, QStringList({u"100,00"_s}));
+    EXPECT_EQ(forma.conFoco(), &forma.control(u"BoxConst")) << "and comes back to it";
+}
+
+TEST_F(Windows, TheToolbarsShortcutsWorkInTheCaseWindow)
+{
+    AbrirPiso();
+    auto& forma = *aplicacion.FormularioActual();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Vista(forma)));
+    forma.lista(u"cboNombreTasador").Elegir(0);
+    QTest::keyClick(Vista(forma).enlazador().de(u"BoxMun"), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(aplicacion.compartido().NumeroTasacionActual, 5);
+    EXPECT_TRUE(Boton_(Vista(*aplicacion.paleta()), u"Botonera(5)"_s).toolTip().endsWith(u"(Ctrl+S)"));
+}
+
 TEST_F(Windows, TheRecordOfCompanyAndValuersIsFilledIn)
 {
     AbrirPiso();
@@ -293,12 +319,13 @@ TEST_F(Windows, TheWordProcessorIsChosenFromTheDisk)
     EXPECT_EQ(trayecto.Text(), u"/bin/cat");
 }
 
-TEST_F(Windows, SettingsOpenThoughTheyHaveNoViewOfTheirOwnYet)
+TEST_F(Windows, TheSettingsShowEveryControlOfTheirs)
 {
     AbrirPiso();
     QTimer::singleShot(0, qApp, [&] {
         Fotografiar(*VistaModal(), u"Opciones"_s);
-        EXPECT_NE(VistaModal()->findChild<QWidget*>(u"cmdOK"_s), nullptr);
+        for (const auto& control : VistaModal()->ventana()->controles())
+            EXPECT_NE(VistaModal()->enlazador().de(control.get()), nullptr) << qPrintable(control->nombre());
         VistaModal()->close();
     });
     aplicacion.MostrarOpciones();
