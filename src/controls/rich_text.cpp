@@ -6,11 +6,18 @@ namespace valmerix {
 
 namespace {
 
+QChar Plegar(QChar c)
+{
+    if (c.unicode() >= 0x80)
+        return c.toCaseFolded();
+    return c >= u'A' && c <= u'Z' ? QChar(c.unicode() + (u'a' - u'A')) : c;
+}
+
 // Folding unit for unit keeps positions: QString::toCaseFolded may lengthen a text.
 QString PlegarUnidades(QStringView texto)
 {
     QString plegado(texto.size(), Qt::Uninitialized);
-    std::transform(texto.begin(), texto.end(), plegado.begin(), [](QChar c) { return c.toCaseFolded(); });
+    std::transform(texto.begin(), texto.end(), plegado.begin(), Plegar);
     return plegado;
 }
 

@@ -168,6 +168,35 @@ TEST_F(Rico, EditingOutsideTheTextIsCutToIt)
     EXPECT_EQ(texto.parrafos(), 1);
 }
 
+TEST_F(Rico, ViewsHoldBackWhileRedrawIsOffAndAreToldOnce)
+{
+    texto.setText(u"uno dos uno"_s);
+    int contenidos = 0;
+    int selecciones = 0;
+    QObject::connect(&texto, &TextoEnriquecido::ContenidoCambiado, &texto, [&] { ++contenidos; });
+    QObject::connect(&texto, &TextoEnriquecido::SeleccionCambiada, &texto, [&] { ++selecciones; });
+    texto.setRedraw(false);
+    for (int i = 0; i < 3; ++i) {
+        texto.Find(u"uno"_s, i * 4);
+        texto.SelBold();
+    }
+    EXPECT_EQ(contenidos + selecciones, 0);
+    texto.setRedraw(true);
+    EXPECT_EQ(contenidos, 1);
+    EXPECT_EQ(selecciones, 1);
+    texto.setRedraw(true);
+    EXPECT_EQ(contenidos + selecciones, 2);
+}
+
+TEST_F(Rico, RedrawWithNothingChangedTellsNothing)
+{
+    int avisos = 0;
+    QObject::connect(&texto, &TextoEnriquecido::ContenidoCambiado, &texto, [&] { ++avisos; });
+    texto.setRedraw(false);
+    texto.setRedraw(true);
+    EXPECT_EQ(avisos, 0);
+}
+
 TEST_F(Rico, ItStartsLocked)
 {
     EXPECT_TRUE(texto.Locked());
