@@ -46,6 +46,10 @@ constexpr auto kBases = [] {
     return bases;
 }();
 
+// Dashes, quotes and the like: as common in addresses as letters, and never with a case or an accent.
+constexpr char32_t kPrimerSigno = 0x2010;
+constexpr char32_t kUltimoSigno = 0x205E;
+
 constexpr bool EsMarca(char32_t c)
 {
     return c >= 0x300 && c <= 0x36F;
@@ -58,7 +62,7 @@ char32_t Base(char32_t c)
         return kBases[c];
     if (EsMarca(c))
         return 0;
-    if (c >= kDañado)
+    if (c >= kDañado || (c >= kPrimerSigno && c <= kUltimoSigno))
         return c;
     const char32_t minuscula = QChar::toCaseFolded(c);
     if (QChar::decompositionTag(minuscula) != QChar::Canonical)
@@ -260,16 +264,20 @@ void OrdenPorClaves::Añadir(QStringView texto)
     Clave clave;
     clave.inicio = bytes_.size();
     clave.indice = claves_.size();
+    constexpr qsizetype kMayor = 4; // bytes that one character may take
+    bytes_.resize(clave.inicio + static_cast<size_t>(texto.size() * kMayor));
+    char* destino = bytes_.data() + clave.inicio;
     LectorUtf16 lector(texto);
     while (const unsigned peso = SiguientePeso(lector)) {
         if (peso <= 0x80) {
-            bytes_.push_back(static_cast<char>(peso));
+            *destino++ = static_cast<char>(peso);
             continue;
         }
-        bytes_.push_back(static_cast<char>(0xFF));
+        *destino++ = static_cast<char>(0xFF);
         for (const unsigned corrimiento : {14U, 7U, 0U}) // never a zero byte
-            bytes_.push_back(static_cast<char>(0x80U | ((peso >> corrimiento) & 0x7FU)));
+            *destino++ = static_cast<char>(0x80U | ((peso >> corrimiento) & 0x7FU));
     }
+    bytes_.resize(static_cast<size_t>(destino - bytes_.data()));
     clave.fin = bytes_.size();
     claves_.push_back(clave);
 }

@@ -6,6 +6,7 @@
 #include "store/sql_functions.h"
 #include "support/fake_open_case.h"
 
+#include <QStringBuilder>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
@@ -214,8 +215,8 @@ void TreeNodes(benchmark::State& estado)
         hojas.reserve(static_cast<size_t>(filas.RecordCount()));
         for (qint32 i = 1; i <= filas.RecordCount(); ++i) {
             hojas.push_back(
-                {filas.Utf8(tasador, i).toString() + u'#' + filas.Texto(u"NumeroTasacion", i) + u"#P"_s,
-                 filas.Utf8(situacion, i).toString() + u" ("_s + filas.Utf8(municipio, i).toString() + u')'});
+                {filas.Utf8(tasador, i).toString() % u'#' % filas.Texto(u"NumeroTasacion", i) % u"#P",
+                 filas.Utf8(situacion, i).toString() % u" (" % filas.Utf8(municipio, i).toString() % u')'});
         }
         OrdenarEspañol(hojas, [](const Hoja& hoja) -> QStringView { return hoja.texto; });
         benchmark::DoNotOptimize(hojas.data());
