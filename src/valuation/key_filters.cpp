@@ -10,25 +10,43 @@ namespace {
 
 constexpr int kRetroceso = 8;
 
+// A longer number would not fit its place in the calculation, and a case stored with it could not be opened
+// any more.
+constexpr int kCifrasCuenta = 4;
+constexpr int kCifrasK = 9;
+
 bool EsCifra(int tecla)
 {
     return tecla >= u'0' && tecla <= u'9';
 }
 
 constexpr ReglaTecla kReglasTecla[] = {
-    {u"BoxAntig", FiltroEntero},         {u"BoxAscen", FiltroEntero},
-    {u"BoxAseos", FiltroEntero},         {u"BoxBaños", FiltroEntero},
-    {u"BoxCPSol", FiltroEntero},         {u"BoxDerecho", FiltroEntero},
-    {u"BoxDormitorios", FiltroEntero},   {u"BoxOtros", FiltroEntero},
-    {u"BoxOtros2", FiltroEntero},        {u"BoxHecho", FiltroEntero},
-    {u"BoxPlantas", FiltroEntero},       {u"BoxPorcen", FiltroEntero},
-    {u"BoxSot", FiltroEntero},           {u"BoxTerrazas", FiltroEntero},
-    {u"BoxVPP", FiltroEntero},           {u"BoxFecha", FiltroEntero},
-    {u"BoxCc", FiltroDecimal},           {u"BoxConst", FiltroDecimal},
-    {u"BoxGaraje", FiltroDecimal},       {u"BoxK", FiltroDecimal},
-    {u"BoxProvisional", FiltroDecimal},  {u"BoxRepercusion", FiltroDecimal},
-    {u"BoxSobreRasante", FiltroDecimal}, {u"BoxSolar", FiltroDecimal},
-    {u"BoxTrastero", FiltroDecimal},     {u"BoxUtil", FiltroDecimal},
+    {u"BoxAntig", FiltroEntero, kCifrasCuenta},
+    {u"BoxAscen", FiltroEntero, kCifrasCuenta},
+    {u"BoxAseos", FiltroEntero, kCifrasCuenta},
+    {u"BoxBaños", FiltroEntero, kCifrasCuenta},
+    {u"BoxCPSol", FiltroEntero},
+    {u"BoxDerecho", FiltroEntero},
+    {u"BoxDormitorios", FiltroEntero, kCifrasCuenta},
+    {u"BoxOtros", FiltroEntero, kCifrasCuenta},
+    {u"BoxOtros2", FiltroEntero, kCifrasCuenta},
+    {u"BoxHecho", FiltroEntero},
+    {u"BoxPlantas", FiltroEntero, kCifrasCuenta},
+    {u"BoxPorcen", FiltroEntero},
+    {u"BoxSot", FiltroEntero, kCifrasCuenta},
+    {u"BoxTerrazas", FiltroEntero, kCifrasCuenta},
+    {u"BoxVPP", FiltroEntero, kCifrasCuenta},
+    {u"BoxFecha", FiltroEntero},
+    {u"BoxCc", FiltroDecimal},
+    {u"BoxConst", FiltroDecimal},
+    {u"BoxGaraje", FiltroDecimal},
+    {u"BoxK", FiltroDecimal, kCifrasK},
+    {u"BoxProvisional", FiltroDecimal},
+    {u"BoxRepercusion", FiltroDecimal},
+    {u"BoxSobreRasante", FiltroDecimal},
+    {u"BoxSolar", FiltroDecimal},
+    {u"BoxTrastero", FiltroDecimal},
+    {u"BoxUtil", FiltroDecimal},
     {u"Text9", FiltroDecimal},
 };
 
@@ -71,6 +89,8 @@ void ConectarFiltros(Ventana& ventana, Sistema& sistema)
         auto* campo = dynamic_cast<CampoTexto*>(ventana.buscar(regla.campo));
         if (!campo)
             continue;
+        if (regla.longitud > 0)
+            campo->setMaxLength(regla.longitud);
         QObject::connect(campo, &CampoTexto::KeyPress, &ventana,
                          [&sistema, filtro = regla.filtro](int& tecla) { filtro(tecla, sistema); });
         if (regla.filtro == FiltroDecimal)

@@ -19,12 +19,13 @@ struct ReglaTecla
 {
     QStringView campo;
     void (*filtro)(int&, Sistema&) = nullptr;
+    int longitud = 0; ///< greatest length; 0: that of its focus rule, or none
 };
 
 /// The fields that take digits only.
 std::span<const ReglaTecla> ReglasTecla();
 
-/// Puts the filters on those of the fields that the window has. `sistema` outlives the window.
+/// Puts the filters and lengths on those of the fields that the window has. `sistema` outlives the window.
 void ConectarFiltros(Ventana& ventana, Sistema& sistema);
 
 } // namespace valmerix

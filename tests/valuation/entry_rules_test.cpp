@@ -76,6 +76,21 @@ TEST(FiltroDeTeclas, EveryFieldOfTheTableIsFilteredAsItSays)
     }
 }
 
+// A longer number would not fit its place in the calculation, and a case stored with it could not be
+// opened any more.
+TEST(FiltroDeTeclas, CountsAndKTakeNoMoreDigitsThanTheCalculationHolds)
+{
+    PisoDePrueba piso;
+    for (const QStringView nombre :
+         {u"BoxAntig", u"BoxPlantas", u"BoxVPP", u"BoxAscen", u"BoxSot", u"BoxDormitorios", u"BoxBaños"}) {
+        EXPECT_NO_THROW(piso.Teclear(nombre, u"99999999999999999999")) << nombre.toString().toStdString();
+        EXPECT_EQ(piso.texto(nombre), u"9999"_s);
+    }
+    piso.form.campo(u"BoxK").Pegar(QString(400, u'9'));
+    EXPECT_EQ(piso.texto(u"BoxK"), QString(9, u'9'));
+    EXPECT_EQ(piso.form.campo(u"BoxCPSol").MaxLength(), 0);
+}
+
 TEST(FiltroDeTeclas, OtherFieldsTakeAnyKey)
 {
     PisoDePrueba piso;
