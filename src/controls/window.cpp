@@ -61,6 +61,16 @@ void Ventana::Enfocar(Control* control)
     Q_EMIT FocoCambiado();
 }
 
+void Ventana::RenovarFoco()
+{
+    Control* enMano = foco_;
+    if (!enMano)
+        return;
+    Q_EMIT enMano->LostFocus();
+    if (foco_ == enMano)
+        Q_EMIT enMano->GotFocus();
+}
+
 void Ventana::setVisible(bool valor)
 {
     if (visible_ == valor)

@@ -70,6 +70,9 @@ public:
     /// control that cannot take it (a label, one disabled or hidden) leaves it where it is.
     void Enfocar(Control* control);
     void Enfocar(QStringView nombre) { Enfocar(&control(nombre)); }
+    /// Ends the turn of the control in hand and begins a new one: LostFocus, then GotFocus of the same. For
+    /// commands that come from a window which takes no focus.
+    void RenovarFoco();
 
     bool visible() const { return visible_; }
     void setVisible(bool valor);

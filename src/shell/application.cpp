@@ -123,6 +123,14 @@ void Aplicacion::CrearFormulario(const QString& letra)
     formulario_->Load();
 }
 
+// Half loaded: nothing of it may be saved; the start window stays, and alone.
+void Aplicacion::DescartarFormulario()
+{
+    CerrarPaleta();
+    formulario_.reset();
+    LimpiarEstado();
+}
+
 bool Aplicacion::AbrirCaso(const QString& clave)
 {
     retiradas_.clear();
@@ -137,8 +145,7 @@ bool Aplicacion::AbrirCaso(const QString& clave)
         CargarCaso(*formulario_, compartido_, *caso);
         formulario_->Enfocar(u"SSTab1"); // some fields take the focus while they are filled
     } catch (const std::exception&) {
-        formulario_.reset(); // half loaded: nothing of it may be saved; the start window stays
-        LimpiarEstado();
+        DescartarFormulario();
         throw;
     }
     MostrarCaso();
@@ -157,7 +164,12 @@ void Aplicacion::NuevoCaso(int indice)
     retiradas_.clear();
     puertos_.sistema.PunteroOcupado(true);
     CargarFicha();
-    CrearFormulario(LetraDelBoton(indice));
+    try {
+        CrearFormulario(LetraDelBoton(indice));
+    } catch (const std::exception&) {
+        DescartarFormulario();
+        throw;
+    }
     MostrarCaso();
     puertos_.sistema.PunteroOcupado(false);
 }
@@ -175,6 +187,8 @@ void Aplicacion::MostrarCaso()
 void Aplicacion::EjecutarOrden(OrdenPaleta orden)
 {
     retiradas_.clear();
+    if (formulario_)
+        formulario_->RenovarFoco(); // what she has just typed counts, though the toolbar takes no focus
     switch (orden) {
     case OrdenPaleta::Informe:
         RedactarInforme();

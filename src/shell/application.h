@@ -95,6 +95,7 @@ private:
     void CerrarInicio();
     void CargarFicha();
     void CrearFormulario(const QString& letra);
+    void DescartarFormulario();
     void MostrarCaso();
     void Guardar();
     void RedactarInforme();

@@ -223,7 +223,21 @@ TEST_F(AplicacionTest, ACaseThatIsGoneLeavesTheStartWindowAndNoHalfLoadedCase)
     EXPECT_THROW(aplicacion->AbrirCaso(u"Rosa Peña#99#P"_s), ErrorAlmacen);
     EXPECT_NE(aplicacion->inicio(), nullptr);
     EXPECT_EQ(aplicacion->FormularioActual(), nullptr);
+    EXPECT_EQ(aplicacion->paleta(), nullptr) << "its toolbar would stand beside the start window";
+    EXPECT_FALSE(aplicacion->compartido().PaletaAbierta);
     EXPECT_EQ(aplicacion->compartido().NumeroTasacionActual, 0);
+}
+
+TEST_F(AplicacionTest, ANewCaseThatFailsToStartLeavesTheStartWindowAlone)
+{
+    Arrancar();
+    // The valuers' record is there already; it is the window that finds no database.
+    EXPECT_THROW(aplicacion->AbrirCaso(u"Rosa Peña#99#P"_s), ErrorAlmacen);
+    ASSERT_TRUE(QFile::rename(ruta(), ruta() + u".aparte"_s));
+    EXPECT_THROW(aplicacion->NuevoCaso(0), ErrorAlmacen);
+    EXPECT_NE(aplicacion->inicio(), nullptr);
+    EXPECT_EQ(aplicacion->FormularioActual(), nullptr);
+    EXPECT_EQ(aplicacion->paleta(), nullptr);
 }
 
 TEST_F(AplicacionTest, EscapeOnTheStartWindowShowsTheExit)
@@ -278,6 +292,35 @@ TEST_F(AplicacionTest, MinimisingAndRestoringHidesAndReturnsTheCaseWithItsToolba
     aplicacion->barra()->setWindowState(EstadoVentana::Normal);
     EXPECT_TRUE(forma().visible());
     EXPECT_NE(aplicacion->paleta(), nullptr);
+}
+
+// The toolbar takes no focus from the field in hand, so its order has to end the field's turn.
+TEST_F(AplicacionTest, AnOrderOfTheToolbarFindsTheFieldInHandWorkedOut)
+{
+    Arrancar();
+    UnPisoGuardado();
+    forma().Enfocar(u"BoxConst");
+    forma().campo(u"BoxConst").Teclear(u"200"_s);
+    dialogos.respuestas = {true};
+    aplicacion->EjecutarOrden(OrdenPaleta::Guardar);
+    const auto fila = Leer(u"SELECT SupConst, ValorFinal FROM Viviendas"_s);
+    EXPECT_EQ(fila.Numero(u"SupConst"), 200);
+    EXPECT_EQ(fila.Numero(u"ValorFinal"), 200 * 600 * 1.3);
+    EXPECT_EQ(forma().conFoco(), &forma().control(u"BoxConst"));
+    EXPECT_EQ(forma().texto(u"BoxConst"), u"200"_s);
+    EXPECT_EQ(forma().campo(u"BoxConst").SelLength(), 3) << "and she goes on in it";
+}
+
+TEST_F(AplicacionTest, AHalfTypedDateBecomesTodayBeforeTheCaseIsStored)
+{
+    Arrancar();
+    ConTasador();
+    aplicacion->NuevoCaso(0);
+    forma().lista(u"cboNombreTasador").Elegir(0);
+    forma().Enfocar(u"BoxFecha");
+    forma().campo(u"BoxFecha").setText(u"31/  /    "_s);
+    aplicacion->EjecutarOrden(OrdenPaleta::Guardar);
+    EXPECT_EQ(Leer(u"SELECT Fecha FROM Viviendas"_s).Fecha(u"Fecha"), reloj.hoy());
 }
 
 TEST_F(AplicacionTest, TheReportComesUpInTheViewer)
