@@ -4,8 +4,9 @@
 set -euo pipefail
 
 run=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-translations-l10n
-     libsqlitecpp-dev libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core sqlite3)
-test=(appstream clang clang-format clang-tidy clang-tools libclang-rt-14-dev desktop-file-utils git lld procps python3 strace unrtf xauth
+     libsqlitecpp-dev libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core
+     fonts-liberation sqlite3)
+test=(appstream clang clang-format clang-tidy clang-tools libclang-rt-14-dev desktop-file-utils git lld poppler-utils procps python3 strace unrtf xauth
       xdotool xvfb libreoffice-writer)
 
 case "${1:-run}" in
