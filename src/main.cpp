@@ -4,6 +4,7 @@
 #include "ui/desktop.h"
 #include "ui/dialogs.h"
 #include "ui/machine.h"
+#include "ui/printing_port.h"
 
 int main(int argc, char* argv[])
 {
@@ -13,7 +14,8 @@ int main(int argc, char* argv[])
     valmerix::SistemaQt sistema;
     valmerix::CapturaQt captura;
     valmerix::PantallaQt pantalla;
-    valmerix::Aplicacion valmerix({dialogos, reloj, sistema, pantalla, captura});
+    valmerix::ImpresionQt impresion(dialogos);
+    valmerix::Aplicacion valmerix({dialogos, reloj, sistema, pantalla, captura, impresion});
     qt.setInforme([&valmerix](const std::exception& fallo) { valmerix.InformarFallo(fallo); });
     valmerix.Arrancar();
     return valmerix::AplicacionQt::exec();

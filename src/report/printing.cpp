@@ -138,4 +138,12 @@ void ImprimirCertificado(const DatosImpresion& datos, Impresion& impresion)
     Imprimir(datos, impresion, Piezas::TextoSolo, u"Certificado de tasación"_s);
 }
 
+void ImprimirDocumento(QStringView TipoDocumento, const DatosImpresion& datos, Impresion& impresion)
+{
+    if (TipoDocumento == u"Informe")
+        ImprimirInforme(datos, impresion);
+    else
+        ImprimirCertificado(datos, impresion);
+}
+
 } // namespace valmerix

@@ -5,6 +5,7 @@
 #include "controls/grid.h"
 
 #include <QStringList>
+#include <QStringView>
 
 namespace valmerix {
 
@@ -25,5 +26,8 @@ void ImprimirInforme(const DatosImpresion& datos, Impresion& impresion);
 
 /// The same for a certificate: neither letterhead nor photographs.
 void ImprimirCertificado(const DatosImpresion& datos, Impresion& impresion);
+
+/// What stands in the viewer: the report for "Informe", a certificate for any other type.
+void ImprimirDocumento(QStringView TipoDocumento, const DatosImpresion& datos, Impresion& impresion);
 
 } // namespace valmerix

@@ -22,7 +22,7 @@ struct BotonVisor
 
 constexpr BotonVisor kBotones[] = {
     {u"BttBuscar", u"Buscar", u"Buscar el texto en el informe"},
-    {u"BttImprimir", u"Imprimir", u"La impresión todavía no está disponible"},
+    {u"BttImprimir", u"Imprimir", u"Ver las páginas del informe e imprimirlas"},
     {u"BttMaquina", u"Procesador de textos", u"Abrir el informe con el procesador de textos"},
     {u"SSCommand2", u"Minimizar", u"Minimizar el visor"},
     {u"SSCommand3", u"Maximizar", u"Maximizar o restaurar el visor"},
@@ -109,12 +109,12 @@ void Visor::CrearBotones()
         boton.setCaption(fila.caption.toString());
         boton.setToolTip(fila.ayuda.toString());
     }
-    boton(u"BttImprimir").setEnabled(false);
 }
 
 void Visor::ConectarControles()
 {
     connect(&boton(u"BttBuscar"), &Boton::Click, this, &Visor::Buscar);
+    connect(&boton(u"BttImprimir"), &Boton::Click, this, [this] { entorno_.Imprimir(); });
     connect(&boton(u"BttMaquina"), &Boton::Click, this, &Visor::Exportar);
     connect(&boton(u"SSCommand1"), &Boton::Click, this, &Visor::Cerrar);
     connect(&boton(u"SSCommand2"), &Boton::Click, this, [this] { entorno_.MinimizarVisor(); });

@@ -1,5 +1,6 @@
 #include "settings/options.h"
 
+#include "common/logo_path.h"
 #include "common/number_pattern.h"
 #include "common/number_reading.h"
 #include "store/query.h"
@@ -204,7 +205,7 @@ void Opciones::MostrarFila(const ConjuntoResultados& fila)
 
 QString Opciones::rutaLogo() const
 {
-    return QString(compartido_.RutaBaseDatos).replace(u"valmerix.mdb"_s, u"Logo.bmp"_s);
+    return RutaLogo(compartido_.RutaBaseDatos);
 }
 
 void Opciones::CapturarLogo()

@@ -1,6 +1,7 @@
 #include "shell/application.h"
 
 #include "report/notes_and_problem.h"
+#include "report/printing.h"
 #include "report/progress.h"
 #include "report/viewer_bar.h"
 #include "report/word_processor_chooser.h"
@@ -264,6 +265,16 @@ void Aplicacion::MostrarOpciones()
     puertos_.pantalla.MostrarModal(configuracion);
     if (formulario_)
         formulario_->ActualizarMoneda();
+}
+
+void Aplicacion::Imprimir()
+{
+    if (!visor_ || !formulario_)
+        return;
+    const DatosImpresion datos{compartido_,           visor_->Texto().Text(),
+                               visor_->oColNegrita(), formulario_->rejilla(u"GridImagen"),
+                               opciones_.Membrete,    formulario_->texto(u"cboNombreTasador").trimmed()};
+    ImprimirDocumento(visor_->TipoDocumento(), datos, puertos_.impresion);
 }
 
 void Aplicacion::MostrarBusqueda(CampoTexto& trayecto)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/ports.h"
+#include "common/printed_document.h"
 #include "report/viewer_environment.h"
 #include "settings/options.h"
 #include "shell/daily_backup.h"
@@ -30,6 +31,7 @@ struct Puertos
     Sistema& sistema;
     Pantalla& pantalla;
     CapturaImagenes& captura;
+    Impresion& impresion;
 };
 
 /// The program: owns the shared state and the windows, and joins them. One case window at a time stands
@@ -87,6 +89,7 @@ public:
     void MinimizarVisor() override;
     void MinimizarCaso() override { Minimizar(); }
     void MostrarOpciones() override;
+    void Imprimir() override;
     void MostrarBusqueda(CampoTexto& trayecto) override;
 
 private:

@@ -4,6 +4,7 @@
 #include "ui/application.h"
 #include "ui/capture.h"
 #include "ui/desktop.h"
+#include "ui/printing_port.h"
 #include "valuation/case_form.h"
 
 #include <QBuffer>
@@ -25,8 +26,9 @@ void FlatWindow(benchmark::State& estado)
     RelojDelSistema reloj;
     SistemaSinPantalla sistema;
     CapturaQt captura;
+    ImpresionQt impresion(dialogos);
     PantallaQt pantalla;
-    Aplicacion valmerix({dialogos, reloj, sistema, pantalla, captura});
+    Aplicacion valmerix({dialogos, reloj, sistema, pantalla, captura, impresion});
     valmerix.Arrancar();
     for (auto _ : estado) {
         valmerix.NuevoCaso(0);

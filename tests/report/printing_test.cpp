@@ -1,6 +1,7 @@
 #include "report/printing.h"
 
 #include "common/logo_path.h"
+#include "support/fake_ports.h"
 #include "support/qt_printers.h"
 #include "support/store_fixture.h"
 
@@ -10,22 +11,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class FakeImpresion : public Impresion
+class ImpresionVigilada : public FakeImpresion
 {
 public:
-    explicit FakeImpresion(const AlmacenDePrueba& almacen)
+    explicit ImpresionVigilada(const AlmacenDePrueba& almacen)
         : almacen_(almacen)
     {
     }
 
     void Previsualizar(const DocumentoImpreso& documento) override
     {
-        vistos.push_back(documento);
+        FakeImpresion::Previsualizar(documento);
         lineasEnTabla = almacen_.Dato(u"SELECT COUNT(*) AS N FROM Informe"_s);
         fotosEnTabla = almacen_.Dato(u"SELECT COUNT(*) AS N FROM FotosInforme"_s);
     }
 
-    std::vector<DocumentoImpreso> vistos;
     QString lineasEnTabla;
     QString fotosEnTabla;
 
@@ -37,7 +37,7 @@ class Printing : public testing::Test
 {
 protected:
     AlmacenDePrueba almacen;
-    FakeImpresion impresion{almacen};
+    ImpresionVigilada impresion{almacen};
     Rejilla fotos{u"GridImagen"_s};
     DatosImpresion datos{almacen.compartido, {}, {}, fotos, false, u"Ana Núñez"_s};
 
@@ -231,6 +231,16 @@ TEST_F(Printing, ACertificateHasNeitherPhotographsNorLetterhead)
         u"DELETE FROM FotosInforme"_s,
     };
     EXPECT_EQ(almacen.sql, esperado);
+}
+
+TEST_F(Printing, OnlyAReportIsPrintedAsOne)
+{
+    ImprimirDocumento(u"Informe", datos, impresion);
+    EXPECT_EQ(impresion.vistos.back().titulo, u"Informe de tasación"_s);
+    for (const QStringView tipo : {u"Certificado", u"", u"informe"}) {
+        ImprimirDocumento(tipo, datos, impresion);
+        EXPECT_EQ(impresion.vistos.back().titulo, u"Certificado de tasación"_s);
+    }
 }
 
 TEST(LogoPath, TakesTheDatabasesPlace)

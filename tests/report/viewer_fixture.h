@@ -18,6 +18,7 @@ public:
     void MostrarVisor() override { llamadas << QStringLiteral("MostrarVisor"); }
     void MinimizarVisor() override { llamadas << QStringLiteral("MinimizarVisor"); }
     void MinimizarCaso() override { llamadas << QStringLiteral("MinimizarCaso"); }
+    void Imprimir() override { llamadas << QStringLiteral("Imprimir"); }
     void MostrarOpciones() override
     {
         llamadas << QStringLiteral("MostrarOpciones");

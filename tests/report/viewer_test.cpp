@@ -27,11 +27,11 @@ TEST(Viewer, OpensLockedInThePlaceOfTheCase)
     EXPECT_EQ(v.visor->control(u"chkEditable").Caption(), u"Texto Editable"_s);
 }
 
-TEST(Viewer, CannotPrintYetAndSaysSo)
+TEST(Viewer, ThePrintButtonShowsThePages)
 {
     VisorDePrueba v;
-    EXPECT_FALSE(v.visor->control(u"BttImprimir").Enabled());
-    EXPECT_FALSE(v.visor->control(u"BttImprimir").ToolTip().isEmpty());
+    v.Pulsar(u"BttImprimir");
+    EXPECT_EQ(v.entorno.llamadas, QStringList{u"Imprimir"_s});
 }
 
 TEST(Viewer, FindsForwardAndStartsAgainAfterTheLast)

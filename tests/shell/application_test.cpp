@@ -23,7 +23,7 @@ protected:
 
     void Arrancar()
     {
-        aplicacion.emplace(Puertos{dialogos, reloj, sistema, pantalla, captura});
+        aplicacion.emplace(Puertos{dialogos, reloj, sistema, pantalla, captura, impresion});
         aplicacion->Arrancar();
     }
     void ConTasador(const QString& nombre = u"Rosa Peña"_s)
@@ -74,6 +74,7 @@ protected:
     FakeSistema sistema;
     FakePantalla pantalla;
     FakeCaptura captura;
+    FakeImpresion impresion;
     std::optional<Aplicacion> aplicacion;
 };
 
@@ -356,6 +357,25 @@ TEST_F(AplicacionTest, AChangeOfCurrencyShowsInTheOpenFormAtOnce)
         ++rotulos;
     }
     EXPECT_EQ(rotulos, 6);
+}
+
+TEST_F(AplicacionTest, TheViewersButtonShowsTheReportAsPages)
+{
+    Arrancar();
+    UnPisoGuardado();
+    forma().rejilla(u"GridImagen").AddItem(u"/fotos/fachada.jpg\tFachada"_s);
+    aplicacion->EjecutarOrden(OrdenPaleta::Informe);
+    pantalla.enFrente->como<Temporizador>(u"Timer1").Tic();
+    aplicacion->visor()->boton(u"BttImprimir").Pulsar();
+    ASSERT_EQ(impresion.vistos.size(), 1U);
+    const DocumentoImpreso& documento = impresion.vistos[0];
+    EXPECT_EQ(documento.autor, u"Rosa Peña"_s);
+    ASSERT_GT(documento.lineas.size(), 40U);
+    EXPECT_EQ(documento.lineas[0].texto, u"INFORME DE TASACION"_s);
+    EXPECT_TRUE(documento.lineas[0].negrita);
+    EXPECT_FALSE(documento.lineas[1].negrita);
+    ASSERT_EQ(documento.fotografias.size(), 1U);
+    EXPECT_EQ(documento.fotografias[0].pie, u"Fachada"_s);
 }
 
 TEST_F(AplicacionTest, AFailureIsToldWithItsSqlAndSheMayGoOn)

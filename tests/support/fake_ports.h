@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/ports.h"
+#include "common/printed_document.h"
 #include "valuation/case_environment.h"
 #include "valuation/case_form.h"
 
@@ -103,6 +104,14 @@ public:
     void DejarPintar() override { ++pintados; }
     void CopiarAlPortapapeles(const QString& texto) override { portapapeles.append(texto); }
     void TerminarProceso(int codigo) override { finales.push_back(codigo); }
+};
+
+/// Records what was shown.
+class FakeImpresion : public Impresion
+{
+public:
+    std::vector<DocumentoImpreso> vistos;
+    void Previsualizar(const DocumentoImpreso& documento) override { vistos.push_back(documento); }
 };
 
 class FakeEntorno : public EntornoCaso

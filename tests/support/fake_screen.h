@@ -16,12 +16,14 @@ class FakePantalla : public Pantalla
 public:
     QStringList mostradas;
     QStringList modales;
+    Ventana* enFrente = nullptr; ///< shown last, not modal
     std::map<QString, std::function<void(Ventana&)>> guion;
     QRect usable{0, 0, 1280, 800};
 
     void Mostrar(Ventana& ventana) override
     {
         mostradas << ventana.nombre();
+        enFrente = &ventana;
         ventana.setVisible(true);
     }
     void MostrarModal(Ventana& ventana) override

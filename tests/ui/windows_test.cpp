@@ -96,7 +96,8 @@ protected:
     FakeSistema sistema;
     PantallaQt pantalla;
     FakeCaptura captura;
-    Aplicacion aplicacion{Puertos{dialogos, reloj, sistema, pantalla, captura}};
+    FakeImpresion impresion;
+    Aplicacion aplicacion{Puertos{dialogos, reloj, sistema, pantalla, captura, impresion}};
 };
 
 TEST_F(Windows, TheTitleShowsItsLettersAndAClickEndsIt)

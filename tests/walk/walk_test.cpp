@@ -48,7 +48,7 @@ protected:
     void Arrancar()
     {
         aplicacion.reset();
-        aplicacion.emplace(Puertos{dialogos, reloj, sistema, pantalla, captura});
+        aplicacion.emplace(Puertos{dialogos, reloj, sistema, pantalla, captura, impresion});
         aplicacion->Arrancar();
     }
 
@@ -184,6 +184,7 @@ protected:
     FakeReloj reloj;
     FakeSistema sistema;
     FakeCaptura captura;
+    FakeImpresion impresion;
     PantallaQt pantalla;
     std::optional<Aplicacion> aplicacion;
 };
