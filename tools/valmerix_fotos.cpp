@@ -10,6 +10,7 @@
 #include "ui/desktop.h"
 #include "ui/dialogs.h"
 #include "ui/machine.h"
+#include "ui/printing_port.h"
 #include "valuation/case_form.h"
 
 #include <QDir>
@@ -123,7 +124,8 @@ int main(int argc, char* argv[])
     SistemaQt sistema(carpetaPrograma.path());
     CapturaQt captura;
     PantallaQt pantalla;
-    Aplicacion aplicacion({dialogos, reloj, sistema, pantalla, captura});
+    ImpresionQt impresion(dialogos);
+    Aplicacion aplicacion({dialogos, reloj, sistema, pantalla, captura, impresion});
     try {
         return Reportaje(aplicacion, pantalla, QDir(argumentos.at(2))).Hacer() ? 0 : 1;
     } catch (const std::exception& fallo) {
