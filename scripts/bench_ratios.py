@@ -16,9 +16,9 @@ def main():
         results = json.loads(pathlib.Path(path).read_text())["benchmarks"]
         times = {r["name"]: (r["real_time"], r["time_unit"]) for r in results if "real_time" in r}
         for name, (time, unit) in times.items():
-            if MARK in name:
-                continue
             head, _, rest = name.partition("/")
+            if head.endswith(MARK):
+                continue
             base = times.get(head + MARK + ("/" + rest if rest else ""))
             ratio = "  %5.2f x its baseline" % (time / base[0]) if base and base[1] == unit and base[0] else ""
             print("  %-50s %12.3f %s%s" % (name, time, unit, ratio))

@@ -101,7 +101,7 @@ stage_tidy() {
 
 # short runs: they show that the benchmarks work and give the ratios to their baselines, not exact times
 stage_bench() {
-    build release || return
+    build release --target benchmarks || return
     local program found=0
     while read -r program; do
         found=1
