@@ -25,7 +25,7 @@ VistaBarra::VistaBarra(Ventana& ventana)
 // Whatever place its model gives it, the bar itself has no more than its button.
 QRect VistaBarra::LugarPosible(QRect /*pedido*/) const
 {
-    return QRect(pos(), sizeHint());
+    return {pos(), sizeHint()};
 }
 
 void VistaBarra::setVisible(bool visible)
@@ -38,10 +38,11 @@ void VistaBarra::Acomodar()
 {
     if (!ventana() || !ventana()->visible())
         return;
-    if (ventana()->WindowState() == EstadoVentana::Minimizada)
+    if (ventana()->WindowState() == EstadoVentana::Minimizada) {
         showMinimized();
-    else
+    } else {
         hide();
+    }
 }
 
 } // namespace valmerix

@@ -139,10 +139,11 @@ void Enlazador::MostrarTitulo(const Control& control, QWidget& widget) const
         widget.setAccessibleName(SinDosPuntos(control.Caption()));
     if (widget.property("soloIcono").toBool())
         return;
-    if (auto* boton = qobject_cast<QAbstractButton*>(&widget))
+    if (auto* boton = qobject_cast<QAbstractButton*>(&widget)) {
         boton->setText(ConMnemonico(control.Caption(), mnemonicos_.value(&control)));
-    else if (auto* etiqueta = qobject_cast<QLabel*>(&widget))
+    } else if (auto* etiqueta = qobject_cast<QLabel*>(&widget)) {
         etiqueta->setText(control.Caption());
+    }
 }
 
 QLabel* Enlazador::CrearEtiqueta(QStringView nombre, QWidget* padre)
@@ -210,10 +211,11 @@ void Enlazador::AtarTemporizadores()
             continue;
         auto* pulso = new QTimer(this);
         const auto ajustar = [reloj, pulso] {
-            if (!reloj->Enabled() || reloj->Interval() <= 0)
+            if (!reloj->Enabled() || reloj->Interval() <= 0) {
                 pulso->stop();
-            else if (!pulso->isActive() || pulso->interval() != reloj->Interval())
+            } else if (!pulso->isActive() || pulso->interval() != reloj->Interval()) {
                 pulso->start(reloj->Interval());
+            }
         };
         connect(reloj, &Control::PresentacionCambiada, pulso, ajustar);
         connect(pulso, &QTimer::timeout, reloj, [this, reloj] {

@@ -14,6 +14,7 @@
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QTabBar>
+#include <algorithm>
 
 namespace valmerix {
 
@@ -45,9 +46,10 @@ bool Crece(const SeccionForma& seccion)
 // Columns in the order of the panels, so that the tabulator goes down one and on to the next.
 void Disponer(QWidget* cuerpo, const std::vector<PanelSeccion*>& paneles)
 {
-    std::vector<int> altos;
-    for (PanelSeccion* panel : paneles)
-        altos.push_back(panel->sizeHint().height() + medida::kEntrePaneles);
+    std::vector<int> altos(paneles.size());
+    std::transform(paneles.begin(), paneles.end(), altos.begin(), [](const PanelSeccion* panel) {
+        return panel->sizeHint().height() + medida::kEntrePaneles;
+    });
     std::vector<int> reparto = RepartirEnColumnas(altos, 2);
     for (int n = 3; n <= kColumnasMayor && AltoDe(altos, reparto) > kAltoPagina; ++n)
         reparto = RepartirEnColumnas(altos, n);

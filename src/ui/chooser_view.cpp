@@ -5,7 +5,6 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 
 namespace valmerix {
@@ -30,6 +29,7 @@ constexpr ListaDelSelector kListas[] = {
 VistaSelector::VistaSelector(Ventana& ventana)
     : VistaVentana(ventana, Marco::Sistema)
 {
+    CerrarConEscape();
     auto* rejilla = new QGridLayout;
     rejilla->setSpacing(medida::kEntreCampos);
     QWidget* unidad = enlazador().Crear(u"Drive1", this);
@@ -66,14 +66,6 @@ VistaSelector::VistaSelector(Ventana& ventana)
 QSize VistaSelector::sizeHint() const
 {
     return kTamaño;
-}
-
-void VistaSelector::keyPressEvent(QKeyEvent* evento)
-{
-    if (evento->key() == Qt::Key_Escape)
-        close();
-    else
-        VistaVentana::keyPressEvent(evento);
 }
 
 } // namespace valmerix

@@ -4,7 +4,6 @@
 #include "ui/theme.h"
 
 #include <QBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -19,6 +18,7 @@ constexpr QSize kTamaño(620, 420);
 VistaEditor::VistaEditor(Ventana& ventana)
     : VistaVentana(ventana, Marco::Sistema)
 {
+    CerrarConEscape();
     auto* todo = new QVBoxLayout(this);
     todo->setContentsMargins(medida::kBorde, medida::kBorde, medida::kBorde, medida::kBorde);
     todo->setSpacing(medida::kEntreCampos);
@@ -46,14 +46,6 @@ VistaEditor::VistaEditor(Ventana& ventana)
 QSize VistaEditor::sizeHint() const
 {
     return kTamaño;
-}
-
-void VistaEditor::keyPressEvent(QKeyEvent* evento)
-{
-    if (evento->key() == Qt::Key_Escape)
-        close();
-    else
-        VistaVentana::keyPressEvent(evento);
 }
 
 } // namespace valmerix

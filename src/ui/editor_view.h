@@ -13,9 +13,6 @@ public:
     explicit VistaEditor(Ventana& ventana);
 
     QSize sizeHint() const override;
-
-protected:
-    void keyPressEvent(QKeyEvent* evento) override;
 };
 
 } // namespace valmerix

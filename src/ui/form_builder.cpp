@@ -108,10 +108,11 @@ PanelSeccion* ConstructorFormulario::Panel(const SeccionForma& seccion, QWidget*
         panel->PonerAnteTitulo(
             CasillaPerfil(u"chkApartados", seccion.apartado, seccion.titulo.toString(), panel));
     }
-    if (SonCasillasSolas(seccion.controles))
+    if (SonCasillasSolas(seccion.controles)) {
         Casillas(seccion.controles, *panel);
-    else
+    } else {
         Lineas(seccion.controles, *panel);
+    }
     return panel;
 }
 
@@ -140,10 +141,11 @@ void ConstructorFormulario::Lineas(Filas filas, PanelSeccion& panel)
     bool crece = false;
     for (size_t i = 0; i < filas.size();) {
         const size_t fin = FinDeLinea(filas, i);
-        if (filas[i].opcion >= 0)
+        if (filas[i].opcion >= 0) {
             JuntoALaOpcion(filas[i], &panel);
-        else
+        } else {
             Linea(filas.subspan(i, fin - i), *rejilla, &panel);
+        }
         crece = crece || filas[i].clase == ClaseControl::Rejilla ||
                 filas[i].clase == ClaseControl::TextoLargo || filas[i].clase == ClaseControl::Imagen;
         i = fin;
@@ -157,9 +159,10 @@ void ConstructorFormulario::Linea(Filas fila, QGridLayout& rejilla, QWidget* pan
 {
     const ControlForma& primero = fila.front();
     const int linea = rejilla.rowCount();
-    if (primero.punto >= 0)
+    if (primero.punto >= 0) {
         rejilla.addWidget(CasillaPerfil(u"chkPuntos", primero.punto, NombreLegible(primero), panel), linea,
                           kColumnaPunto);
+    }
     const bool conTitulo = EsCampo(primero) || (primero.clase == ClaseControl::Casilla && fila.size() > 1);
     if (!conTitulo)
         return LineaSuelta(fila, rejilla, panel);

@@ -45,10 +45,11 @@ void VistaGenerica::Añadir(const Control& control, QWidget* cuerpo, QFormLayout
     if (!widget)
         return;
     const bool llevaSuTitulo = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QLabel*>(widget);
-    if (llevaSuTitulo || control.Caption().isEmpty())
+    if (llevaSuTitulo || control.Caption().isEmpty()) {
         lineas->addRow(widget);
-    else
+    } else {
         lineas->addRow(enlazador().CrearEtiqueta(control.nombre(), cuerpo), widget);
+    }
 }
 
 } // namespace valmerix

@@ -64,10 +64,11 @@ void CampoLinea::MostrarSeleccion()
     if (!campo_ || sincronizando_)
         return;
     const QScopedValueRollback guarda(sincronizando_, true);
-    if (campo_->SelLength() > 0)
+    if (campo_->SelLength() > 0) {
         setSelection(campo_->SelStart(), campo_->SelLength());
-    else
+    } else {
         setCursorPosition(campo_->SelStart());
+    }
 }
 
 void CampoLinea::MostrarPresentacion()
@@ -201,10 +202,11 @@ void CampoLinea::mouseReleaseEvent(QMouseEvent* evento)
     QLineEdit::mouseReleaseEvent(evento);
     if (!llegada)
         return;
-    if (hasSelectedText() || !campo_ || campo_->SelLength() == 0)
+    if (hasSelectedText() || !campo_ || campo_->SelLength() == 0) {
         TomarSeleccion();
-    else
+    } else {
         MostrarSeleccion();
+    }
 }
 
 } // namespace valmerix

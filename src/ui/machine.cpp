@@ -90,10 +90,11 @@ void SistemaQt::PunteroOcupado(bool ocupado)
 {
     // One busy pointer at most, however often it is asked for.
     const bool estaba = QGuiApplication::overrideCursor() != nullptr;
-    if (ocupado && !estaba)
+    if (ocupado && !estaba) {
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    else if (!ocupado && estaba)
+    } else if (!ocupado && estaba) {
         QGuiApplication::restoreOverrideCursor();
+    }
 }
 
 void SistemaQt::DejarPintar()

@@ -53,10 +53,11 @@ void GrupoBotones::PonerJunto(int indice, QWidget* widget)
     const bool ocupaTodo = widget->maximumWidth() == QWIDGETSIZE_MAX;
     linea->addWidget(widget, ocupaTodo ? 1 : 0);
     linea->setStretch(1, ocupaTodo ? 0 : 1); // a narrow field stands at the right end
-    if (const QString titulo = boton(indice)->text(); !titulo.isEmpty())
+    if (const QString titulo = boton(indice)->text(); !titulo.isEmpty()) {
         widget->setAccessibleName(titulo);
-    else
+    } else {
         boton(indice)->setAccessibleName(widget->accessibleName());
+    }
 }
 
 void GrupoBotones::Mostrar()

@@ -5,7 +5,6 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -43,6 +42,7 @@ QBoxLayout* EnColumna(std::initializer_list<QWidget*> paneles)
 VistaOpciones::VistaOpciones(Ventana& ventana)
     : VistaVentana(ventana, Marco::Sistema)
 {
+    CerrarConEscape();
     auto* todo = new QVBoxLayout(this);
     todo->setContentsMargins(medida::kBorde, medida::kBorde, medida::kBorde, medida::kBorde);
     todo->setSpacing(medida::kEntrePaneles);
@@ -150,14 +150,6 @@ QWidget* VistaOpciones::Botonera()
     guardar->setDefault(true);
     fila->addWidget(guardar);
     return caja;
-}
-
-void VistaOpciones::keyPressEvent(QKeyEvent* evento)
-{
-    if (evento->key() == Qt::Key_Escape)
-        close();
-    else
-        VistaVentana::keyPressEvent(evento);
 }
 
 } // namespace valmerix

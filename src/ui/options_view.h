@@ -17,9 +17,6 @@ class VistaOpciones : public VistaVentana
 public:
     explicit VistaOpciones(Ventana& ventana);
 
-protected:
-    void keyPressEvent(QKeyEvent* evento) override;
-
 private:
     QWidget* Edades();
     QWidget* Procesador();

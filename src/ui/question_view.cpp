@@ -3,7 +3,6 @@
 #include "ui/theme.h"
 
 #include <QBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
@@ -23,6 +22,7 @@ constexpr qreal kLetraTitulo = 1.25; // of the common size
 VistaPregunta::VistaPregunta(Ventana& ventana)
     : VistaVentana(ventana, Marco::Sistema)
 {
+    CerrarConEscape();
     auto* icono = new QLabel(this);
     icono->setPixmap(style()
                          ->standardIcon(QStyle::SP_MessageBoxQuestion)
@@ -49,8 +49,12 @@ VistaPregunta::VistaPregunta(Ventana& ventana)
     botones->addStretch();
     std::vector<Control*> pulsables;
     for (const QStringView nombre : {u"SSCommand1", u"SSCommand2"}) {
-        botones->addWidget(enlazador().Crear(nombre, this));
+        QWidget* boton = enlazador().Crear(nombre, this);
+        botones->addWidget(boton);
         pulsables.push_back(&ventana.control(nombre));
+        // A hasty Return changes nothing.
+        if (ventana.control(nombre).Caption() == u"NO")
+            boton->setFocus();
     }
     RepartirMnemonicos(enlazador(), pulsables);
     auto* todo = new QVBoxLayout(this);
@@ -58,17 +62,6 @@ VistaPregunta::VistaPregunta(Ventana& ventana)
     todo->setSpacing(medida::kBorde);
     todo->addLayout(arriba);
     todo->addLayout(botones);
-}
-
-void VistaPregunta::keyPressEvent(QKeyEvent* evento)
-{
-    if (evento->key() == Qt::Key_Escape)
-        close();
-    else if (auto* boton = qobject_cast<QPushButton*>(focusWidget());
-             boton && (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter))
-        boton->click();
-    else
-        VistaVentana::keyPressEvent(evento);
 }
 
 } // namespace valmerix

@@ -11,9 +11,6 @@ class VistaPregunta : public VistaVentana
 
 public:
     explicit VistaPregunta(Ventana& ventana);
-
-protected:
-    void keyPressEvent(QKeyEvent* evento) override;
 };
 
 } // namespace valmerix

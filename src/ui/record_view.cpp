@@ -6,7 +6,6 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -25,6 +24,7 @@ constexpr int kCamposPorLinea = 2;
 VistaFicha::VistaFicha(Ventana& ventana)
     : VistaVentana(ventana, Marco::Sistema)
 {
+    CerrarConEscape();
     auto* todo = new QVBoxLayout(this);
     todo->setContentsMargins(medida::kBorde, medida::kBorde, medida::kBorde, medida::kBorde);
     todo->setSpacing(medida::kEntrePaneles);
@@ -109,14 +109,6 @@ QWidget* VistaFicha::Botonera()
     fila->addWidget(aceptar);
     fila->addWidget(enlazador().Crear(u"bttCancel", caja));
     return caja;
-}
-
-void VistaFicha::keyPressEvent(QKeyEvent* evento)
-{
-    if (evento->key() == Qt::Key_Escape)
-        close();
-    else
-        VistaVentana::keyPressEvent(evento);
 }
 
 } // namespace valmerix

@@ -16,9 +16,6 @@ class VistaFicha : public VistaVentana
 public:
     explicit VistaFicha(Ventana& ventana);
 
-protected:
-    void keyPressEvent(QKeyEvent* evento) override;
-
 private:
     QWidget* Empresa();
     QWidget* Tasadores();

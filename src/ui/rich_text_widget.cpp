@@ -112,10 +112,11 @@ void EditorInforme::Sincronizar()
         return;
     if (std::exchange(contenidoViejo_, false))
         MostrarContenido();
-    if (std::exchange(seleccionVieja_, false))
+    if (std::exchange(seleccionVieja_, false)) {
         MostrarSeleccion();
-    else if (std::exchange(alPrincipio_, false))
+    } else if (std::exchange(alPrincipio_, false)) {
         verticalScrollBar()->setValue(0);
+    }
 }
 
 void EditorInforme::MostrarContenido()
@@ -123,10 +124,11 @@ void EditorInforme::MostrarContenido()
     const QScopedValueRollback guarda(sincronizando_, true);
     const int altura = verticalScrollBar()->value();
     document()->setUndoRedoEnabled(false);
-    if (toPlainText() != texto_->Text())
+    if (toPlainText() != texto_->Text()) {
         setPlainText(texto_->Text());
-    else
+    } else {
         QTextCursor(document()).setBlockFormat({});
+    }
     PonerMarcas(*document(), *texto_);
     document()->setUndoRedoEnabled(true);
     verticalScrollBar()->setValue(altura);

@@ -13,11 +13,12 @@ CajaFilas::CajaFilas(Lista& lista, Gesto gesto, QWidget* padre)
     setUniformItemSizes(true);
     connect(&lista, &CampoTexto::Change, this, &CajaFilas::Mostrar);
     connect(&lista, &Control::PresentacionCambiada, this, &CajaFilas::Mostrar);
-    if (gesto == Gesto::Sencillo)
+    if (gesto == Gesto::Sencillo) {
         connect(this, &QListWidget::currentRowChanged, this, &CajaFilas::Elegir);
-    else
+    } else {
         connect(this, &QListWidget::itemActivated, this,
                 [this](QListWidgetItem* fila) { Elegir(row(fila)); });
+    }
     Mostrar();
 }
 

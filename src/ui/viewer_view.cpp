@@ -81,7 +81,7 @@ QWidget* VistaVisor::Barra()
     auto* busqueda = dynamic_cast<CajaLista*>(enlazador().Crear(u"Combo1", barra));
     busqueda->setMinimumWidth(kAnchoBusqueda);
     busqueda->setMaximumWidth(kAnchoBusquedaMayor);
-    busqueda->lineEdit()->setPlaceholderText(u"Buscar en el informe"_s);
+    busqueda->lineEdit()->setPlaceholderText(u"Texto"_s);
     busqueda->setAccessibleName(u"Texto que se busca"_s);
     fila->addWidget(busqueda, 1);
     auto* buscar = qobject_cast<QAbstractButton*>(Orden(u"BttBuscar", u"buscar"_s, barra));

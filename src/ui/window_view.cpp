@@ -4,6 +4,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QWindow>
@@ -145,10 +146,11 @@ void VistaVentana::TomarEstado()
 bool VistaVentana::event(QEvent* evento)
 {
     if (ventana_ && ventana_->abierta()) {
-        if (evento->type() == QEvent::WindowActivate)
+        if (evento->type() == QEvent::WindowActivate) {
             Protegido([this] { ventana_->Activar(); });
-        else if (evento->type() == QEvent::WindowDeactivate)
+        } else if (evento->type() == QEvent::WindowDeactivate) {
             Protegido([this] { ventana_->Desactivar(); });
+        }
     }
     return QWidget::event(evento);
 }
@@ -165,8 +167,17 @@ void VistaVentana::keyPressEvent(QKeyEvent* evento)
 {
     if (!ventana_)
         return QWidget::keyPressEvent(evento);
-    Protegido([&] { ventana_->PulsarTecla(evento->key()); });
     evento->accept();
+    if (cierraConEscape_ && evento->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    auto* boton = qobject_cast<QPushButton*>(focusWidget());
+    if (boton && (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)) {
+        boton->click();
+        return;
+    }
+    Protegido([&] { ventana_->PulsarTecla(evento->key()); });
 }
 
 void VistaVentana::moveEvent(QMoveEvent* evento)

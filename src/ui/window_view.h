@@ -30,6 +30,8 @@ public:
     void Soltar();
     /// Takes place, caption and visibility from the model.
     void Mostrar();
+    /// From now on Escape closes the window, as its close button does.
+    void CerrarConEscape() { cierraConEscape_ = true; }
     /// Keeps this window above another one, which it stops while it is modal.
     void PonerDelanteDe(QWidget& otra);
 
@@ -53,6 +55,7 @@ private:
     QPointer<Ventana> ventana_;
     Enlazador* enlazador_;
     bool sincronizando_ = false;
+    bool cierraConEscape_ = false;
 };
 
 } // namespace valmerix

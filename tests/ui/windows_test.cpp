@@ -129,6 +129,20 @@ TEST_F(Windows, EscapeOnTheStartWindowAsksForTheEnd)
     EXPECT_TRUE(sistema.finales.empty());
 }
 
+TEST_F(Windows, AHastyReturnOrEscapeOnAQuestionChangesNothing)
+{
+    AbrirPiso();
+    for (const auto tecla : {Qt::Key_Return, Qt::Key_Escape}) {
+        QTimer::singleShot(0, qApp, [&] {
+            ASSERT_TRUE(QTest::qWaitForWindowActive(VistaModal()));
+            QTest::keyClick(QApplication::focusWidget(), tecla);
+        });
+        aplicacion.EjecutarOrden(OrdenPaleta::Reinicio);
+        EXPECT_EQ(VistaModal(), nullptr);
+        EXPECT_NE(aplicacion.FormularioActual(), nullptr);
+    }
+}
+
 TEST_F(Windows, ACaseIsTypedSavedAndFoundInTheTreeAfterARestart)
 {
     AbrirPiso();
