@@ -223,10 +223,11 @@ QString Plegar(QStringView texto)
     LectorUtf16 lector(texto);
     while (lector.quedan()) {
         const char32_t base = Base(lector.siguiente());
-        if (base == u'n' && lector.tildeDelante())
+        if (base == u'n' && lector.tildeDelante()) {
             plegado += u'ñ';
-        else if (base != 0)
+        } else if (base != 0) {
             plegado += QChar::fromUcs4(base);
+        }
     }
     return plegado;
 }
@@ -236,12 +237,13 @@ void PlegarUtf8(std::string_view texto, std::string& plegado)
     LectorUtf8 lector(texto);
     while (lector.quedan()) {
         const char32_t base = Base(lector.siguiente());
-        if (base == u'n' && lector.tildeDelante())
+        if (base == u'n' && lector.tildeDelante()) {
             AñadirUtf8(u'ñ', plegado);
-        else if (base != 0 && base < 0x80)
+        } else if (base != 0 && base < 0x80) {
             plegado.push_back(static_cast<char>(base));
-        else if (base != 0)
+        } else if (base != 0) {
             AñadirUtf8(base, plegado);
+        }
     }
 }
 
@@ -320,10 +322,11 @@ void OrdenPorClaves::OrdenarTramo(const Tramo& tramo, std::vector<Tramo>& pendie
         while (fin < tramo.ultimo && claves_[fin].trozo == trozo)
             ++fin;
         const bool acabadas = (trozo & 0xFFU) == 0; // no key holds a zero byte
-        if (fin - i > 1 && acabadas)
+        if (fin - i > 1 && acabadas) {
             empates.emplace_back(i, fin);
-        else if (fin - i > 1)
+        } else if (fin - i > 1) {
             pendientes.push_back({i, fin, tramo.desde + sizeof(quint64)});
+        }
         i = fin;
     }
 }

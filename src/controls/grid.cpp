@@ -47,10 +47,8 @@ void Rejilla::setTextMatrix(int fila, int columna, const QString& texto)
 void Rejilla::AddItem(const QString& linea, int indice)
 {
     Fila nueva{linea.split(u'\t'), MarcaCelda::Ninguna};
-    if (indice < 1 || indice >= Rows())
-        filas_.push_back(std::move(nueva));
-    else
-        filas_.insert(filas_.begin() + indice, std::move(nueva));
+    const bool alFinal = indice < 1 || indice >= Rows();
+    filas_.insert(alFinal ? filas_.end() : filas_.begin() + indice, std::move(nueva));
     Avisar();
 }
 

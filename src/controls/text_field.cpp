@@ -108,10 +108,11 @@ void CampoTexto::PulsarTecla(int tecla)
     if (tecla < kPrimeraVisible && tecla != kRetroceso && !(finDeLinea && variasLineas_))
         return;
     tecla = FiltrarTecla(finDeLinea ? u'\n' : tecla);
-    if (tecla == kRetroceso)
+    if (tecla == kRetroceso) {
         Retroceder();
-    else if (tecla != 0)
+    } else if (tecla != 0) {
         Insertar(QString(QChar(static_cast<char16_t>(tecla))));
+    }
 }
 
 void CampoTexto::Retroceder()

@@ -116,10 +116,11 @@ void CargaVivienda(CasoAbierto& caso, EstadoCompartido& compartido, const QStrin
                               u"' AND NumeroTasacion = "_s + QString::number(NumeroTasacion);
     const QString sql = u"SELECT * FROM Viviendas WHERE "_s + condicion;
     ConjuntoResultados fila = Consultar(compartido, sql);
-    if (fila.RecordCount() == 0)
+    if (fila.RecordCount() == 0) {
         throw ErrorAlmacen(u"No hay ninguna tasación %1 de tipo «%2» de «%3»."_s.arg(NumeroTasacion)
                                .arg(Tipo, NombreTasador),
                            sql);
+    }
     CargarTasador(caso, compartido, fila);
     CargarCampos(caso.ventana(), TipoDeLetra(caso.letra()), fila);
     caso.ComponerFrasesDelEdificio();
