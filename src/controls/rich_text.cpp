@@ -77,6 +77,12 @@ void TextoEnriquecido::Seleccionar(int inicio, int longitud)
     AvisarSeleccion();
 }
 
+void TextoEnriquecido::VolverAlPrincipio()
+{
+    Seleccionar(0, 0);
+    Q_EMIT VistaAlPrincipio();
+}
+
 void TextoEnriquecido::setSelLength(int longitud)
 {
     Seleccionar(selInicio_, longitud);

@@ -60,7 +60,8 @@ public:
     void Editar(int posicion, int quitados, const QString& puesto);
 
     /// Puts the view at the top of the text, so that what is found next comes up at the window's top.
-    void VolverAlPrincipio() { Q_EMIT VistaAlPrincipio(); }
+    /// The caret goes there too.
+    void VolverAlPrincipio();
 
 Q_SIGNALS:
     /// The whole content was replaced or marked by a procedure; not raised by Editar.

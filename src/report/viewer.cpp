@@ -55,10 +55,10 @@ QString CaptionDelCapitulo(int indice)
     return indice == kUltimoBoton ? u"Importe"_s : QString::number(indice);
 }
 
-/// One is the other with one character more at its end.
-bool DifierenEnUnaTecla(QStringView a, QStringView b)
+// What leaving the empty path of the settings has always put there counts as no program at all.
+bool SinPrograma(const QString& trayecto)
 {
-    return (a.size() == b.size() + 1 && a.startsWith(b)) || (b.size() == a.size() + 1 && b.startsWith(a));
+    return trayecto.isEmpty() || trayecto == u"Null Path";
 }
 
 } // namespace
@@ -125,7 +125,6 @@ void Visor::ConectarControles()
     connect(&casilla(u"chkEditable"), &Casilla::Click, this, &Visor::DesbloquearEdicion);
     connect(&combo_, &Lista::Click, this, &Visor::RecordarBusqueda);
     connect(&combo_, &Lista::Change, this, &Visor::RecordarBusqueda);
-    connect(&combo_, &Lista::LostFocus, this, [this] { tecleada_.clear(); });
     connect(&texto_, &TextoEnriquecido::LostFocus, this, [this] { UltimaBusqueda_ = texto_.SelStart(); });
 }
 
@@ -157,7 +156,6 @@ void Visor::AlternarTamaño()
 
 void Visor::Buscar()
 {
-    tecleada_.clear();
     texto_.setSelLength(0);
     const int hallado = texto_.Find(combo_.Text(), UltimaBusqueda_);
     if (hallado < 0) {
@@ -170,20 +168,9 @@ void Visor::Buscar()
     texto_.Find(combo_.Text(), hallado);
 }
 
-/// While she types, the list holds the search as it stands and not each of its beginnings.
-bool Visor::SigueTecleando(const QString& busqueda) const
-{
-    return !tecleada_.isEmpty() && combo_.List().startsWith(tecleada_) &&
-           DifierenEnUnaTecla(tecleada_, busqueda);
-}
-
 void Visor::RecordarBusqueda()
 {
     const QString busqueda = combo_.Text();
-    if (SigueTecleando(busqueda)) {
-        combo_.RemoveItem(0);
-    }
-    tecleada_.clear();
     if (busqueda.isEmpty() || combo_.List().contains(busqueda)) {
         return;
     }
@@ -191,7 +178,6 @@ void Visor::RecordarBusqueda()
         combo_.RemoveItem(combo_.ListCount() - 1);
     }
     combo_.AddItem(busqueda, 0);
-    tecleada_ = busqueda;
     UltimaBusqueda_ = 0;
 }
 
@@ -213,10 +199,10 @@ void Visor::DesbloquearEdicion()
 
 void Visor::Exportar()
 {
-    if (compartido_.ProcesadorTextos.isEmpty()) {
+    if (SinPrograma(compartido_.ProcesadorTextos)) {
         dialogos_.Mensaje(kSinProcesador.toString(), u"Aviso"_s, IconoMensaje::Aviso);
         entorno_.MostrarOpciones();
-        if (compartido_.ProcesadorTextos.isEmpty()) {
+        if (SinPrograma(compartido_.ProcesadorTextos)) {
             return;
         }
     }

@@ -41,7 +41,6 @@ private:
     void ConectarControles();
     void Buscar();
     void RecordarBusqueda();
-    bool SigueTecleando(const QString& busqueda) const;
     void IrACapitulo(int indice);
     void DesbloquearEdicion();
     void Exportar();
@@ -54,7 +53,6 @@ private:
     EntornoVisor& entorno_;
     TextoEnriquecido& texto_;
     Lista& combo_;
-    QString tecleada_; ///< the search that she is still typing, as it stands in the list
     QString TipoDocumento_;
     QStringList oColNegrita_;
     int UltimaBusqueda_ = -1;

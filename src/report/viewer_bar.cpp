@@ -32,6 +32,12 @@ void VisorMin::MinimizarVisor()
     setCaption(visor_.control(u"EtiquetaCaption").Caption());
 }
 
+void VisorMin::PedirCierre()
+{
+    setWindowState(EstadoVentana::Normal);
+    Cerrar();
+}
+
 void VisorMin::AlActivar()
 {
     visor_.setVisible(!reducida());

@@ -15,6 +15,8 @@ public:
 
     /// Hides the viewer and turns this window into an icon in its place.
     void MinimizarVisor();
+    /// Closed from the task bar it gives the viewer back: the text in it may have been corrected.
+    void PedirCierre() override;
 
 private:
     void AlActivar();

@@ -54,8 +54,12 @@ void CajaLista::MostrarPresentacion()
         actuales.append(itemText(i));
     if (actuales != lista_->List()) {
         const QSignalBlocker silencio(this);
+        const int cursor = isEditable() ? lineEdit()->cursorPosition() : 0; // new items would empty the line
         clear();
         addItems(lista_->List());
+        MostrarElegido();
+        if (isEditable())
+            lineEdit()->setCursorPosition(cursor);
     }
     MostrarElegido();
 }

@@ -120,7 +120,8 @@ QWidget* VistaVisor::Orden(QStringView nombre, const QString& icono, QWidget* pa
     auto* boton = new QToolButton(padre);
     boton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     boton->setAutoRaise(true);
-    boton->setFocusPolicy(Qt::TabFocus);
+    // The text loses the focus to it, and the next search starts from where its caret stands.
+    boton->setFocusPolicy(Qt::StrongFocus);
     boton->setIcon(Icono(icono));
     boton->setIconSize(kIcono);
     enlazador().AtarBoton(ventana()->boton(nombre), boton);
