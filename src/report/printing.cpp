@@ -63,7 +63,7 @@ void MarcarNegritas(clsConsulta& consulta, const QStringList& oColNegrita)
 MembreteImpreso LeerMembrete(clsConsulta& consulta, const QString& rutaBaseDatos)
 {
     MembreteImpreso membrete;
-    membrete.Logo = RutaLogo(rutaBaseDatos);
+    membrete.Logo = LogoJuntoA(rutaBaseDatos);
     const ConjuntoResultados empresa = consulta.Instantanea2(kEmpresa, u"SELECT * FROM Empresa"_s);
     if (empresa.RecordCount() == 0)
         return membrete;

@@ -46,6 +46,7 @@ void Busqueda::CrearControles()
     auto& unidades = Añadir<Lista>(u"Drive1"_s);
     unidades.setCaption(u"Unidad:"_s);
     unidades.setList(Unidades());
+    unidades.setCerrada(true);
     Añadir<Lista>(u"Dir1"_s).setCaption(u"Directorio:"_s);
     Añadir<Lista>(u"File1"_s).setCaption(u"Programa:"_s);
     auto& elegido = Añadir<CampoTexto>(u"SelecBox"_s);

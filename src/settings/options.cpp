@@ -133,7 +133,8 @@ void Opciones::CrearMonedaYCabecera()
 void Opciones::ConectarControles()
 {
     for (const auto& control : controles()) {
-        if (auto* campo = qobject_cast<CampoTexto*>(control.get()))
+        auto* campo = qobject_cast<CampoTexto*>(control.get());
+        if (campo && campo->nombre() != u"Text7") // the number of decimals has no rule at all
             connect(campo, &Control::GotFocus, campo, &CampoTexto::SeleccionarTodo);
     }
     for (const FilaEdad& fila : kEdades)
@@ -232,6 +233,7 @@ QString Opciones::Sentencia() const
 
 void Opciones::AlCerrar()
 {
+    RenovarFoco(); // closed by a key, the field in hand still has its rule to run
     try {
         AccesoDatos::clsConsulta consulta(compartido_);
         consulta.AbrirBaseDatosEmpresa(compartido_.RutaBaseDatos);

@@ -78,7 +78,7 @@ void Formulario::AplicarOpciones()
         Ventana::opciones(u"Sup").Elegir(0);
     else if (opciones.TipoSuperficie == u"Const")
         Ventana::opciones(u"Sup").Elegir(1);
-    ActualizarMoneda();
+    ActualizarMoneda(opciones.MonedaAbreviatura);
     PonerPerfil(opciones.*descripcion_.perfil);
 }
 
@@ -128,12 +128,10 @@ void Formulario::CargaPaleta()
     servicios_.compartido.PaletaAbierta = abierta;
 }
 
-void Formulario::ActualizarMoneda()
+void Formulario::ActualizarMoneda(const QString& moneda)
 {
-    for (const EtiquetaMoneda& etiqueta : EtiquetasMoneda()) {
-        const QString& moneda = servicios_.opciones.MonedaAbreviatura;
+    for (const EtiquetaMoneda& etiqueta : EtiquetasMoneda())
         control(etiqueta.nombre).setCaption(etiqueta.porMetro ? moneda + u"/m²"_s : moneda);
-    }
 }
 
 QString Formulario::perfil() const

@@ -63,8 +63,10 @@ void Formulario::Load()
         consulta.AbrirBaseDatosEmpresa(servicios_.compartido.RutaBaseDatos);
         hayOpciones = LeerOpciones(consulta, servicios_.opciones);
     }
-    if (hayOpciones)
+    if (hayOpciones) {
+        servicios_.compartido.ProcesadorTextos = servicios_.opciones.Trayectoria;
         AplicarOpciones();
+    }
     IniciarCampos();
 }
 

@@ -250,4 +250,10 @@ TEST(LogoPath, TakesTheDatabasesPlace)
     EXPECT_EQ(RutaLogo(u"/d/otra.mdb"_s), u"/d/otra.mdb"_s);
 }
 
+TEST(LogoPath, TheLetterheadLooksBesideADatabaseOfAnyName)
+{
+    EXPECT_EQ(LogoJuntoA(u"/d/valmerix.mdb"_s), u"/d/Logo.bmp"_s);
+    EXPECT_EQ(LogoJuntoA(u"/d/otra.mdb"_s), u"/d/Logo.bmp"_s);
+}
+
 } // namespace valmerix

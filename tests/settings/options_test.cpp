@@ -57,6 +57,31 @@ TEST_F(OpcionesTest, LoadShowsTheInstalledRow)
     EXPECT_EQ(ventana->control(u"chkEncabezamiento(1)").Caption(), u"Número/Fecha Inscripción"_s);
 }
 
+TEST_F(OpcionesTest, ClosingByAKeyRunsTheRuleOfTheFieldInHand)
+{
+    const auto ventana = Abrir();
+    ventana->Enfocar(u"Text4");
+    ventana->campo(u"Text4").setText({});
+    EXPECT_TRUE(ventana->Cerrar());
+    EXPECT_EQ(Valor(u"MonedaSingular"_s), u"peseta"_s);
+    const auto otra = Abrir();
+    otra->Enfocar(u"TrayecBox");
+    otra->campo(u"TrayecBox").setText(u"/usr/bin/lowriter"_s);
+    EXPECT_TRUE(otra->Cerrar());
+    EXPECT_EQ(entorno.compartido.ProcesadorTextos, u"/usr/bin/lowriter"_s);
+}
+
+TEST_F(OpcionesTest, AnUnsetGenderOpensAsMasculine)
+{
+    for (const QString& genero : {u"''"_s, u"NULL"_s}) {
+        base.Ejecutar(u"UPDATE Opciones SET MonedaGenero = "_s + genero);
+        const auto ventana = Abrir();
+        EXPECT_TRUE(ventana->opciones(u"Genero").Value(0));
+        EXPECT_TRUE(ventana->Cerrar());
+        EXPECT_EQ(Valor(u"MonedaGenero"_s), u"M"_s);
+    }
+}
+
 TEST_F(OpcionesTest, AgesStopAtTheirLimitWithABeep)
 {
     const auto ventana = Abrir();

@@ -165,7 +165,7 @@ TEST(Tablas, MoneyLabelsNameTheCurrency)
     PisoDePrueba piso;
     int porMetro = 0;
     piso.opciones.MonedaAbreviatura = u"Pts."_s;
-    piso.form.ActualizarMoneda();
+    piso.form.ActualizarMoneda(piso.opciones.MonedaAbreviatura);
     EXPECT_EQ(EtiquetasMoneda().size(), 6U);
     for (const EtiquetaMoneda& etiqueta : EtiquetasMoneda()) {
         porMetro += etiqueta.porMetro ? 1 : 0;
