@@ -5,9 +5,9 @@
 
 namespace valmerix {
 
-Ventana::Ventana(const QString& nombre, const QString& caption)
+Ventana::Ventana(const QString& nombre, QString caption)
     : nombre_(nombre)
-    , caption_(caption)
+    , caption_(std::move(caption))
 {
     setObjectName(nombre);
 }

@@ -7,9 +7,11 @@
 #include "controls/text_field.h"
 #include "controls/tree.h"
 
+#include <QPointer>
 #include <QRect>
 #include <memory>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace valmerix {
@@ -23,7 +25,7 @@ class Ventana : public QObject
     Q_OBJECT
 
 public:
-    explicit Ventana(const QString& nombre, const QString& caption = {});
+    explicit Ventana(const QString& nombre, QString caption = {});
     ~Ventana() override;
 
     const QString& nombre() const { return nombre_; }
@@ -91,6 +93,12 @@ public:
     /// Asks PuedeCerrar, runs AlCerrar, raises Cerrada. False when the window stays open. What AlCerrar
     /// throws passes, and the window stays open too.
     bool Cerrar();
+    /// Her closing it through the desktop: its title bar, its task-bar entry, Alt+F4.
+    virtual void PedirCierre() { Cerrar(); }
+
+    /// The window that this one serves and stays above; null for none.
+    Ventana* dueña() const { return dueña_; }
+    void Servir(Ventana& dueña) { dueña_ = &dueña; }
 
     /// Fills with "name(i)": how a member of a control array is called.
     static QString Indice(QStringView nombre, int i);
@@ -125,6 +133,7 @@ private:
     Control* foco_ = nullptr;
     EstadoVentana estado_ = EstadoVentana::Normal;
     QRect lugar_;
+    QPointer<Ventana> dueña_;
     bool visible_ = false;
     bool abierta_ = true;
     bool cerrando_ = false;

@@ -51,8 +51,17 @@ Aplicacion::~Aplicacion() = default;
 
 void Aplicacion::Arrancar()
 {
+    EmpezarDeNuevo([this] {
+        if (!puertos_.sistema.otraInstancia()) // a second one ends by itself, and leaves the files alone
+            InstalarSiFalta();
+    });
+}
+
+// A failure here would leave her without any window.
+void Aplicacion::EmpezarDeNuevo(const std::function<void()>& antes)
+{
     try {
-        InstalarSiFalta();
+        antes();
         MostrarInicio();
     } catch (const std::exception& fallo) {
         puertos_.dialogos.Mensaje(u"Valmerix no ha podido arrancar.\n"_s + MensajeDe(fallo), u"Error"_s,
@@ -121,13 +130,24 @@ void Aplicacion::CrearFormulario(const QString& letra)
         *descripcion, ServiciosCaso{compartido_, calculo_, frases_, opciones_, puertos_.dialogos,
                                     puertos_.reloj, puertos_.sistema, *this});
     formulario_->Mover(LugarDelCaso(puertos_.pantalla.area()));
+    connect(formulario_.get(), &Ventana::Resize, this, &Aplicacion::ImpedirIcono);
     formulario_->Load();
+}
+
+// The desktop may turn the window into an icon; it goes down as its own button takes it, with its toolbar.
+void Aplicacion::ImpedirIcono()
+{
+    if (formulario_->WindowState() != EstadoVentana::Minimizada)
+        return;
+    formulario_->setWindowState(EstadoVentana::Normal);
+    Minimizar();
 }
 
 // Half loaded: nothing of it may be saved; the start window stays, and alone.
 void Aplicacion::DescartarFormulario()
 {
     CerrarPaleta();
+    compartido_.PaletaAbierta = false; // asked for by the window's load, though never shown
     formulario_.reset();
     LimpiarEstado();
 }
@@ -188,8 +208,9 @@ void Aplicacion::MostrarCaso()
 void Aplicacion::EjecutarOrden(OrdenPaleta orden)
 {
     retiradas_.clear();
-    if (formulario_)
-        formulario_->RenovarFoco(); // what she has just typed counts, though the toolbar takes no focus
+    // What she has just typed counts, though the toolbar takes no focus.
+    if (formulario_ && (orden == OrdenPaleta::Informe || orden == OrdenPaleta::Guardar))
+        formulario_->RenovarFoco();
     switch (orden) {
     case OrdenPaleta::Informe:
         RedactarInforme();
@@ -253,8 +274,8 @@ void Aplicacion::MinimizarVisor()
 void Aplicacion::CerrarVisor()
 {
     Retirar(calculos_);
-    Retirar(visorMin_);
     Retirar(visor_);
+    Retirar(visorMin_);
 }
 
 void Aplicacion::MostrarOpciones()
@@ -264,7 +285,7 @@ void Aplicacion::MostrarOpciones()
     configuracion.Load();
     puertos_.pantalla.MostrarModal(configuracion);
     if (formulario_)
-        formulario_->ActualizarMoneda();
+        formulario_->ActualizarMoneda(configuracion.texto(u"Text6"));
 }
 
 void Aplicacion::Imprimir()
@@ -295,19 +316,16 @@ void Aplicacion::Reiniciar()
     Retirar(formulario_);
     Retirar(minimizado_);
     CerrarVisor();
-    try {
-        MostrarInicio();
-    } catch (const std::exception& fallo) {
-        InformarFallo(fallo);
-    }
+    EmpezarDeNuevo([] {});
     LimpiarEstado();
     puertos_.sistema.PunteroOcupado(false);
 }
 
+// Only the results: the other figures keep what the last calculation or loading left there.
 void Aplicacion::LimpiarEstado()
 {
     frases_ = {};
-    calculo_ = {};
+    BorrarResultados(calculo_);
     compartido_.NumeroTasacionActual = 0;
 }
 
@@ -360,10 +378,12 @@ void Aplicacion::MostrarPaleta(bool abierta)
 
 void Aplicacion::MostrarPaletaEn(int izquierda, int arriba)
 {
-    if (!formulario_)
+    if (!formulario_ || !formulario_->visible()) // it comes with the window, not before it
         return;
     if (!paleta_ || !paleta_->abierta()) {
         paleta_ = std::make_unique<Form2>(formulario_->nombre());
+        paleta_->Servir(*formulario_);
+        connect(paleta_.get(), &Ventana::Cerrada, this, [this] { compartido_.PaletaAbierta = false; });
         connect(paleta_.get(), &Form2::Pedida, this, &Aplicacion::EjecutarOrden);
         connect(paleta_.get(), &Form2::CierrePedido, this, [this] {
             compartido_.CierrePaleta = true;
@@ -381,7 +401,6 @@ void Aplicacion::MostrarPaletaEn(int izquierda, int arriba)
 void Aplicacion::CerrarPaleta()
 {
     Retirar(paleta_);
-    compartido_.PaletaAbierta = false;
 }
 
 } // namespace valmerix

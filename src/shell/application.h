@@ -11,6 +11,7 @@
 #include "valuation/calculation_state.h"
 #include "valuation/case_environment.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -94,11 +95,13 @@ public:
 
 private:
     void InstalarSiFalta();
+    void EmpezarDeNuevo(const std::function<void()>& antes);
     void MostrarInicio();
     void CerrarInicio();
     void CargarFicha();
     void CrearFormulario(const QString& letra);
     void DescartarFormulario();
+    void ImpedirIcono();
     void MostrarCaso();
     void Guardar();
     void RedactarInforme();

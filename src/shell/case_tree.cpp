@@ -34,9 +34,10 @@ QStringView TablaDe(const QString& letra)
     return fila == kCarpetas.end() ? QStringView() : fila->tabla;
 }
 
-std::vector<NodoArbol> Hojas(const ConjuntoResultados& casos, const QString& letra)
+std::vector<NodoArbol> Hojas(const ConjuntoResultados& casos)
 {
     const int nombre = casos.Columna(u"NombreTasador");
+    const int tipo = casos.Columna(u"Tipo");
     const int situacion = casos.Columna(u"Situacion");
     const int municipio = casos.Columna(u"Municipio");
     std::vector<NodoArbol> hojas;
@@ -44,7 +45,7 @@ std::vector<NodoArbol> Hojas(const ConjuntoResultados& casos, const QString& let
     for (qint32 fila = 1; fila <= casos.RecordCount(); ++fila) {
         const auto texto = [&](int columna) { return QString::fromUtf8(casos.Utf8(columna, fila)); };
         QString clave = texto(nombre);
-        clave += u'#' + QString::number(casos.Entero(u"NumeroTasacion", fila)) + u'#' + letra;
+        clave += u'#' + QString::number(casos.Entero(u"NumeroTasacion", fila)) + u'#' + texto(tipo);
         QString rotulo = texto(situacion);
         rotulo += u" ("_s + texto(municipio) + u')';
         hojas.push_back({std::move(clave), std::move(rotulo)});
@@ -88,7 +89,7 @@ void ArbolCasos::CargarArbol(Arbol& arbol, EstadoCompartido& compartido, const S
     for (const FilaCarpeta& fila : kCarpetas) {
         CarpetaArbol carpeta{fila.letra.toString(), fila.texto.toString(), {}};
         if (const auto casos = Busqueda(compartido, carpeta.clave)) {
-            carpeta.hijos = Hojas(*casos, carpeta.clave);
+            carpeta.hijos = Hojas(*casos);
             OrdenarEspañol(carpeta.hijos, [](const NodoArbol& n) { return QStringView(n.texto); });
         }
         carpetas.push_back(std::move(carpeta));

@@ -25,8 +25,8 @@ void Minimizado::MinimizarCaso()
     Ventana* caso = entorno_.ventanaDelCaso();
     if (!caso)
         return;
-    compartido_.PaletaAbierta = caso->control(kBotonPaleta).Tag() == u"S";
     entorno_.CerrarPaleta();
+    compartido_.PaletaAbierta = caso->control(kBotonPaleta).Tag() == u"S";
     compartido_.RestauracionHecha = false;
     compartido_.MinimizadoPendiente = true;
     setCaption({});
@@ -34,6 +34,13 @@ void Minimizado::MinimizarCaso()
     caso->setVisible(false);
     setWindowState(EstadoVentana::Minimizada);
     setCaption(caso->control(u"EtiquetaCaption").Caption());
+}
+
+void Minimizado::PedirCierre()
+{
+    setWindowState(EstadoVentana::Normal);
+    if (Ventana* caso = entorno_.ventanaDelCaso())
+        caso->PedirCierre();
 }
 
 void Minimizado::AlActivar()

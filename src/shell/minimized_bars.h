@@ -28,6 +28,8 @@ public:
 
     /// The case window's minimise button: hides it and its toolbar and turns this window into an icon.
     void MinimizarCaso();
+    /// Closed from the task bar it gives the case back and asks what the case asks.
+    void PedirCierre() override;
 
 private:
     void AlActivar();

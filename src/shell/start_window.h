@@ -25,6 +25,9 @@ public:
     /// Kinds whose window stands, by the index of their button; the others are disabled.
     void HabilitarTipos(const std::vector<bool>& hechos);
 
+    /// The program's only window at that moment: closing it is leaving the program.
+    void PedirCierre() override { Q_EMIT SalidaPedida(); }
+
 Q_SIGNALS:
     void AbrirPedido(const QString& clave);
     void CopiarPedido(const QString& clave);

@@ -39,6 +39,8 @@ public:
     /// `forma`: the name of the case window, which decides the colours of the title.
     explicit Form2(const QString& forma);
 
+    void PedirCierre() override { Q_EMIT CierrePedido(); }
+
 Q_SIGNALS:
     void Pedida(valmerix::OrdenPaleta orden);
     /// Its own close button.

@@ -41,23 +41,13 @@ void PantallaQt::Retirar(const QObject* ventana)
     vistas_.extract(ventana);
 }
 
-VistaVentana* PantallaQt::Principal() const
-{
-    for (const auto& [modelo, vista] : vistas_) {
-        if (vista->isVisible() && vista->windowType() == Qt::Window)
-            return vista.get();
-    }
-    return nullptr;
-}
-
 void PantallaQt::Mostrar(Ventana& ventana)
 {
     VistaVentana& nueva = VistaDe(ventana);
     if (nueva.isVisible())
         return;
-    // A tool window stays above the window that it serves.
-    if (VistaVentana* principal = Principal(); principal && nueva.windowType() == Qt::Tool)
-        nueva.PonerDelanteDe(*principal);
+    if (VistaVentana* servida = ventana.dueña() ? vista(*ventana.dueña()) : nullptr)
+        nueva.PonerDelanteDe(*servida);
     ventana.setVisible(true);
     nueva.Mostrar();
 }

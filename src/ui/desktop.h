@@ -27,7 +27,6 @@ public:
 
 private:
     VistaVentana& VistaDe(Ventana& ventana);
-    VistaVentana* Principal() const;
     void Retirar(const QObject* ventana);
 
     struct Borrador

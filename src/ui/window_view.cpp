@@ -101,7 +101,7 @@ void VistaVentana::MostrarLugar()
     const QRect posible = LugarPosible(pedido);
     if (size() != posible.size())
         resize(posible.size());
-    if (!pedido.isNull() && pos() != posible.topLeft())
+    if (pedido != QRect() && pos() != posible.topLeft())
         move(posible.topLeft());
 }
 
@@ -136,11 +136,15 @@ void VistaVentana::TomarEstado()
 {
     if (!ventana_ || sincronizando_)
         return;
-    const QScopedValueRollback guarda(sincronizando_, true);
     const auto estado = isMinimized()   ? EstadoVentana::Minimizada
                         : isMaximized() ? EstadoVentana::Maximizada
                                         : EstadoVentana::Normal;
-    Protegido([&] { ventana_->setWindowState(estado); });
+    {
+        const QScopedValueRollback guarda(sincronizando_, true);
+        Protegido([&] { ventana_->setWindowState(estado); });
+    }
+    if (ventana_ && ventana_->WindowState() != estado)
+        MostrarEstado(); // its procedures would not have it so
 }
 
 bool VistaVentana::event(QEvent* evento)
@@ -157,10 +161,9 @@ bool VistaVentana::event(QEvent* evento)
 
 void VistaVentana::closeEvent(QCloseEvent* evento)
 {
-    bool cerrada = true;
     if (ventana_ && ventana_->abierta())
-        Protegido([&] { cerrada = ventana_->Cerrar(); });
-    evento->setAccepted(cerrada);
+        Protegido([this] { ventana_->PedirCierre(); });
+    evento->setAccepted(!ventana_ || !ventana_->abierta());
 }
 
 void VistaVentana::keyPressEvent(QKeyEvent* evento)

@@ -32,6 +32,17 @@ struct EstadoCalculo
     Currency ValorUnitarioSuelo; ///< per m² of plot
 };
 
+/// What a restart clears: the results in money. The rest stays as the last calculation or loading left it.
+inline void BorrarResultados(EstadoCalculo& estado)
+{
+    for (Currency EstadoCalculo::*resultado :
+         {&EstadoCalculo::RepercusionSolar, &EstadoCalculo::CosteConstruccion,
+          &EstadoCalculo::ValorReposicion, &EstadoCalculo::ValorUnitario, &EstadoCalculo::ValorVivienda,
+          &EstadoCalculo::ValorTrastero, &EstadoCalculo::ValorGaraje, &EstadoCalculo::ValorOtroAnexo,
+          &EstadoCalculo::ValorTotal, &EstadoCalculo::ValorUnitarioSuelo})
+        estado.*resultado = {};
+}
+
 /// Sentences composed while she types; the report prints them as they stand.
 struct FrasesInforme
 {

@@ -38,6 +38,9 @@ public:
     Formulario(const DescripcionForma& descripcion, const ServiciosCaso& servicios);
     ~Formulario() override;
 
+    /// Leaving a case is leaving the program, and is asked as `SSCommand1` asks it.
+    void PedirCierre() override { servicios_.entorno.MostrarSalida(); }
+
     /// The window's start: options, valuers, profile, today's date, grids. Throws ErrorAlmacen.
     void Load();
     /// The part of the start that the options rule: heading, surface, money labels, section profile.
@@ -66,8 +69,8 @@ public:
     void CargaPaleta();
     /// Fills the list of valuers; the one shown stays while it is on the list. Throws ErrorAlmacen.
     void CargarComboTasadores();
-    /// Rewrites the labels that name the currency.
-    void ActualizarMoneda();
+    /// Rewrites the labels that name the currency by its abbreviation.
+    void ActualizarMoneda(const QString& moneda);
     /// Price per m² of the grid's rows, down to the first without a surface: sum of the values over sum of
     /// the surfaces, 0 without surface. Says so in a box. Throws ErrorDesbordamiento.
     Currency PrecioMedio(const Rejilla& rejilla, int columnaSuperficie, int columnaValor);

@@ -110,11 +110,6 @@ void Formulario::AlPulsarFicha()
 
 void Formulario::AlPulsarMinimizar()
 {
-    const bool conPaleta = control(u"SSCommand3").Tag() == u'S';
-    servicios_.entorno.MostrarPaleta(false);
-    servicios_.compartido.PaletaAbierta = conPaleta;
-    servicios_.compartido.RestauracionHecha = false;
-    servicios_.compartido.MinimizadoPendiente = true;
     servicios_.entorno.Minimizar();
 }
 

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <sqlite3.h>
 
 namespace valmerix {
 namespace {
@@ -156,6 +157,109 @@ TEST_F(AplicacionTest, ARestartShowsTheStoredCaseWithoutTheTitleAndClearsTheStat
     ASSERT_EQ(hojas.size(), 1u);
     EXPECT_EQ(hojas[0].clave, u"Rosa Peña#5#P"_s);
     EXPECT_EQ(hojas[0].texto, u"Calle Mayor, 5 (Alcoi)"_s);
+}
+
+TEST_F(AplicacionTest, ARestartClearsTheResultsAndKeepsTheOtherFigures)
+{
+    Arrancar();
+    UnPisoGuardado();
+    Escribir(u"BoxAntig", u"20"_s);
+    ASSERT_EQ(aplicacion->calculo().CoefDepreciacion, 0.2);
+    aplicacion->Reiniciar();
+    EXPECT_EQ(aplicacion->calculo().CosteConstruccion, Currency());
+    EXPECT_EQ(aplicacion->calculo().ValorUnitarioSuelo, Currency());
+    EXPECT_EQ(aplicacion->calculo().CoefDepreciacion, 0.2);
+    EXPECT_EQ(aplicacion->calculo().CoeficienteK, 1.3);
+    EXPECT_FALSE(aplicacion->compartido().PaletaAbierta);
+}
+
+TEST_F(AplicacionTest, ARestartThatFailsEndsTheProcessAndNotInAnEmptyScreen)
+{
+    Arrancar();
+    UnPisoGuardado();
+    dialogos.mensajes.clear();
+    sqlite3* base = nullptr;
+    sqlite3_open(ruta().toUtf8().constData(), &base);
+    sqlite3_exec(base, "ALTER TABLE Opciones RENAME COLUMN MonedaDecimales TO Otra", nullptr, nullptr,
+                 nullptr);
+    sqlite3_close(base);
+    aplicacion->Reiniciar();
+    ASSERT_FALSE(dialogos.mensajes.empty());
+    EXPECT_TRUE(dialogos.mensajes.back().texto.startsWith(u"Valmerix no ha podido arrancar.\n"_s));
+    EXPECT_EQ(sistema.finales, std::vector<int>{1});
+}
+
+TEST_F(AplicacionTest, ASecondStartInstallsNothing)
+{
+    sistema.otra = true;
+    Arrancar();
+    EXPECT_EQ(sistema.finales.front(), 0);
+    EXPECT_FALSE(QFileInfo::exists(ruta()));
+}
+
+TEST_F(AplicacionTest, TheExchangeTemplateComesBackWhenItIsMissing)
+{
+    Arrancar();
+    ASSERT_TRUE(QFile::remove(carpeta.path() + u"/Datos/Testigos.mak"_s));
+    Arrancar();
+    EXPECT_TRUE(QFileInfo::exists(carpeta.path() + u"/Datos/Testigos.mak"_s));
+    EXPECT_TRUE(dialogos.mensajes.empty());
+    EXPECT_TRUE(sistema.finales.empty());
+}
+
+TEST_F(AplicacionTest, ClosingTheStartWindowThroughTheDesktopAsksAsEscapeDoes)
+{
+    Arrancar();
+    pantalla.guion[u"SALIDA"_s] = [](Ventana& v) { v.boton(u"SSCommand1").Pulsar(); };
+    aplicacion->inicio()->PedirCierre();
+    EXPECT_EQ(pantalla.modales, QStringList{u"SALIDA"_s});
+    ASSERT_NE(aplicacion->inicio(), nullptr);
+    EXPECT_TRUE(aplicacion->inicio()->abierta());
+}
+
+TEST_F(AplicacionTest, AnIconMadeByTheDesktopGoesDownWithItsToolbar)
+{
+    Arrancar();
+    ConTasador();
+    aplicacion->NuevoCaso(0);
+    ASSERT_NE(aplicacion->paleta(), nullptr);
+    forma().setWindowState(EstadoVentana::Minimizada);
+    EXPECT_EQ(forma().WindowState(), EstadoVentana::Normal);
+    EXPECT_FALSE(forma().visible());
+    EXPECT_EQ(aplicacion->paleta(), nullptr);
+    EXPECT_EQ(aplicacion->barra()->WindowState(), EstadoVentana::Minimizada);
+}
+
+TEST_F(AplicacionTest, TheStoredWordProcessorServesWithoutOpeningTheSettings)
+{
+    Arrancar();
+    Ejecutar(u"UPDATE Opciones SET Trayectoria = '/usr/bin/soffice'"_s);
+    UnPisoGuardado();
+    EXPECT_EQ(aplicacion->compartido().ProcesadorTextos, u"/usr/bin/soffice"_s);
+    aplicacion->EjecutarOrden(OrdenPaleta::Informe);
+    aplicacion->visor()->boton(u"BttMaquina").Pulsar();
+    ASSERT_EQ(sistema.arranques.size(), 1u);
+    EXPECT_EQ(sistema.arranques[0].orden, u"/usr/bin/soffice"_s);
+    EXPECT_TRUE(pantalla.modales.isEmpty());
+}
+
+// To leave the empty path in the settings stores "Null Path", which is no program.
+TEST_F(AplicacionTest, CancelledSettingsLeaveTheViewerAsItWas)
+{
+    Arrancar();
+    UnPisoGuardado();
+    aplicacion->EjecutarOrden(OrdenPaleta::Informe);
+    pantalla.guion[u"Opciones"_s] = [](Ventana& v) {
+        v.Enfocar(u"TrayecBox");
+        v.Enfocar(u"Text1");
+        v.Cerrar();
+    };
+    for (int vez = 0; vez < 2; ++vez)
+        aplicacion->visor()->boton(u"BttMaquina").Pulsar();
+    EXPECT_EQ(pantalla.modales, (QStringList{u"Opciones"_s, u"Opciones"_s}));
+    EXPECT_TRUE(sistema.arranques.empty());
+    EXPECT_FALSE(QFileInfo::exists(carpeta.path() + u"/Tasacion.rtf"_s));
+    EXPECT_TRUE(forma().visible());
 }
 
 TEST_F(AplicacionTest, ACancelledRestartChangesNothing)
@@ -336,7 +440,11 @@ TEST_F(AplicacionTest, TheReportComesUpInTheViewer)
     EXPECT_TRUE(texto.contains(u"Calle Mayor, 5."_s));
     aplicacion->EjecutarOrden(OrdenPaleta::CerrarVisor);
     EXPECT_EQ(aplicacion->visor(), nullptr);
+    const QStringList antes = pantalla.mostradas;
     aplicacion->EjecutarOrden(OrdenPaleta::CerrarVisor);
+    EXPECT_EQ(aplicacion->visor(), nullptr);
+    EXPECT_EQ(pantalla.mostradas, antes);
+    EXPECT_TRUE(forma().visible());
 }
 
 TEST_F(AplicacionTest, AChangeOfCurrencyShowsInTheOpenFormAtOnce)
@@ -357,6 +465,20 @@ TEST_F(AplicacionTest, AChangeOfCurrencyShowsInTheOpenFormAtOnce)
         ++rotulos;
     }
     EXPECT_EQ(rotulos, 6);
+}
+
+TEST_F(AplicacionTest, TheMoneyLabelsFollowTheSettingsThoughTheRowCouldNotBeWritten)
+{
+    Arrancar();
+    UnPisoGuardado();
+    pantalla.guion[u"Opciones"_s] = [](Ventana& v) {
+        v.campo(u"Text1").setText({}); // no number: the statement fails
+        v.campo(u"Text6").setText(u"Kr"_s);
+        v.boton(u"cmdOK").Pulsar();
+    };
+    aplicacion->EjecutarOrden(OrdenPaleta::Opciones);
+    EXPECT_EQ(forma().control(EtiquetasMoneda().front().nombre).Caption().left(2), u"Kr"_s);
+    EXPECT_EQ(Leer(u"SELECT MonedaAbreviatura FROM Opciones"_s).Texto(u"MonedaAbreviatura"), u"€"_s);
 }
 
 TEST_F(AplicacionTest, TheViewersButtonShowsTheReportAsPages)

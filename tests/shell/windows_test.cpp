@@ -99,7 +99,12 @@ protected:
 
     Ventana* ventanaDelCaso() override { return hayCaso ? &caso : nullptr; }
     void MostrarPaletaEn(int izquierda, int arriba) override { paletas.push_back({izquierda, arriba}); }
-    void CerrarPaleta() override { ++cierres; }
+    void CerrarPaleta() override
+    {
+        ++cierres;
+        if (alCerrarPaleta)
+            alCerrarPaleta();
+    }
 
     EstadoCompartido compartido;
     Ventana caso;
@@ -107,6 +112,7 @@ protected:
     bool hayCaso = true;
     std::vector<QPoint> paletas;
     int cierres = 0;
+    std::function<void()> alCerrarPaleta;
 };
 
 TEST_F(BarraTest, MinimisingHidesTheCaseAndItsToolbarAndKeepsTheCaption)
@@ -119,6 +125,23 @@ TEST_F(BarraTest, MinimisingHidesTheCaseAndItsToolbarAndKeepsTheCaption)
     EXPECT_EQ(barra.lugar(), QRect(40, 30, 600, 450));
     EXPECT_FALSE(compartido.MinimizadoPendiente);
     EXPECT_FALSE(compartido.RestauracionHecha);
+}
+
+TEST_F(BarraTest, WhetherTheToolbarStoodOpenIsRememberedAfterItHasClosed)
+{
+    compartido.RestauracionHecha = true;
+    alCerrarPaleta = [this] { compartido.PaletaAbierta = false; };
+    barra.MinimizarCaso();
+    EXPECT_TRUE(compartido.PaletaAbierta);
+}
+
+TEST_F(BarraTest, ClosedFromTheTaskBarItGivesTheCaseBackAndAsks)
+{
+    barra.MinimizarCaso();
+    barra.PedirCierre();
+    EXPECT_EQ(barra.WindowState(), EstadoVentana::Normal);
+    EXPECT_TRUE(barra.abierta());
+    EXPECT_FALSE(caso.abierta()) << "a plain window closes when it is asked to";
 }
 
 TEST_F(BarraTest, RestoringBringsBackTheCaseAndTheToolbarAtItsRightEdge)

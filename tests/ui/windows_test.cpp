@@ -23,6 +23,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTimer>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 namespace valmerix {
@@ -244,6 +245,70 @@ TEST_F(Windows, TheToolbarStandsAtTheFormsRightEdgeAndBothFitASmallScreen)
     EXPECT_EQ(paleta.top(), caso.top());
     EXPECT_LE(caso.width() + paleta.width(), 1280);
     EXPECT_LE(paleta.height(), 760);
+}
+
+TEST_F(Windows, TheToolbarComesBackToTheFormsRightEdge)
+{
+    AbrirPiso();
+    auto& forma = *aplicacion.FormularioActual();
+    const auto alBorde = [&] {
+        const QRect caso = Vista(forma).frameGeometry();
+        return Vista(*aplicacion.paleta()).pos() == QPoint(caso.left() + caso.width(), caso.top());
+    };
+    forma.boton(u"SSCommand3").Pulsar();
+    ASSERT_EQ(aplicacion.paleta(), nullptr);
+    forma.boton(u"SSCommand3").Pulsar();
+    EXPECT_TRUE(alBorde());
+    forma.boton(u"SSCommand2").Pulsar();
+    ASSERT_EQ(aplicacion.paleta(), nullptr);
+    aplicacion.barra()->setWindowState(EstadoVentana::Normal);
+    EXPECT_TRUE(alBorde());
+    EXPECT_EQ(Vista(*aplicacion.paleta()).windowHandle()->transientParent(), Vista(forma).windowHandle());
+}
+
+TEST_F(Windows, AWindowClosedThroughTheDesktopAsksBeforeTheEndOfTheProgram)
+{
+    const auto cerrar = [&](VistaVentana& vista) {
+        QString preguntado;
+        QTimer::singleShot(0, qApp, [&] {
+            preguntado = VistaModal()->windowTitle();
+            Pulsar(*VistaModal(), u"SSCommand1"_s);
+        });
+        EXPECT_FALSE(vista.close());
+        EXPECT_TRUE(vista.isVisible());
+        EXPECT_EQ(preguntado, u"Fin de Valmerix"_s);
+    };
+    cerrar(Vista(*aplicacion.inicio()));
+    AbrirPiso();
+    cerrar(Vista(*aplicacion.FormularioActual()));
+    EXPECT_TRUE(sistema.finales.empty());
+}
+
+TEST_F(Windows, SearchingEndsTheTurnOfTheText)
+{
+    AbrirPiso();
+    Redactar();
+    VistaVentana& vista = Vista(*aplicacion.visor());
+    vista.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&vista));
+    Informe().setFocus();
+    EXPECT_EQ(aplicacion.visor()->conFoco(), &aplicacion.visor()->control(u"Texto"));
+    aplicacion.visor()->campo(u"Combo1").setText(u"valor"_s);
+    Pulsar(vista, u"BttBuscar"_s);
+    EXPECT_NE(aplicacion.visor()->conFoco(), &aplicacion.visor()->control(u"Texto"));
+}
+
+TEST_F(Windows, ASearchCorrectedInItsMiddleKeepsItsCaret)
+{
+    AbrirPiso();
+    Redactar();
+    VistaVentana& vista = Vista(*aplicacion.visor());
+    auto* linea = vista.findChild<QComboBox*>(u"Combo1"_s)->lineEdit();
+    QTest::keyClicks(linea, u"dormitrio"_s);
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(linea, Qt::Key_Left);
+    QTest::keyClicks(linea, u"oxy"_s);
+    EXPECT_EQ(linea->text(), u"dormitoxyrio"_s);
 }
 
 TEST_F(Windows, ACommandOfTheToolbarLeavesTheFieldInHandFirst)

@@ -253,15 +253,19 @@ TEST(Paleta, WhileItClosesItselfTheButtonLeavesItAlone)
     EXPECT_TRUE(piso.entorno.llamadas.isEmpty());
 }
 
-TEST(Minimizar, RemembersWhetherThePaletteStoodOpen)
+TEST(Minimizar, TheBarDoesTheMinimising)
 {
     PisoDePrueba piso;
-    piso.compartido.RestauracionHecha = true;
     piso.form.boton(u"SSCommand2").Pulsar();
-    EXPECT_TRUE(piso.compartido.PaletaAbierta);
-    EXPECT_FALSE(piso.compartido.RestauracionHecha);
-    EXPECT_TRUE(piso.compartido.MinimizadoPendiente);
-    EXPECT_EQ(piso.entorno.llamadas, (QStringList{u"MostrarPaleta(false)"_s, u"Minimizar"_s}));
+    EXPECT_EQ(piso.entorno.llamadas, QStringList{u"Minimizar"_s});
+}
+
+TEST(Cierre, ThroughTheDesktopAsksToLeaveTheProgramAndKeepsTheCase)
+{
+    PisoDePrueba piso;
+    piso.form.PedirCierre();
+    EXPECT_EQ(piso.entorno.llamadas, QStringList{u"MostrarSalida"_s});
+    EXPECT_TRUE(piso.form.abierta());
 }
 
 TEST(Eventos, EveryControlOfTheTablesIsInTheFlat)
