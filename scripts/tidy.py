@@ -2,7 +2,9 @@
 """Runs clang-tidy over the sources of a build folder and remembers, by a hash of all that a file includes, which
 of them came out clean: only what changed is looked at again.
 
-usage: tidy.py BUILD_FOLDER [JOBS]     (the cache: $XDG_CACHE_HOME/valmerix-tidy, ~/.cache by default)
+usage: tidy.py BUILD_FOLDER [JOBS [FOLDER...]]   all of src and tools, or these folders
+
+The cache: $XDG_CACHE_HOME/valmerix-tidy, ~/.cache by default.
 """
 import concurrent.futures
 import hashlib
@@ -47,9 +49,9 @@ def look(build, entry):
 def main():
     build, jobs = sys.argv[1], int(sys.argv[2]) if len(sys.argv) > 2 else os.cpu_count()
     CACHE.mkdir(parents=True, exist_ok=True)
+    folders = [ROOT / folder for folder in sys.argv[3:] or ("src", "tools")]
     entries = {e["file"]: e for e in json.loads(pathlib.Path(build, "compile_commands.json").read_text())
-               if pathlib.Path(e["file"]).is_relative_to(ROOT / "src")
-               or pathlib.Path(e["file"]).is_relative_to(ROOT / "tools")}
+               if any(pathlib.Path(e["file"]).is_relative_to(folder) for folder in folders)}
     bad = 0
     with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
         for file, findings in pool.map(lambda e: look(build, e), entries.values()):

@@ -38,7 +38,7 @@ enum class FormaCampo : quint8 {
 enum class UsoCampo : quint8 { LecturaYEscritura, Lectura, Escritura };
 
 /// One field of a case. The order of the rows is the order of reading and writing.
-struct CampoCaso // NOLINT(clang-analyzer-optin.performance.Padding): its parts stand as a row reads
+struct CampoCaso
 {
     QStringView columna;
     FormaCampo forma = FormaCampo::Texto;

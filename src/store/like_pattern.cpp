@@ -3,6 +3,7 @@
 #include "common/spanish_text.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace valmerix {
 
@@ -54,11 +55,11 @@ size_t Buscar(std::string_view tramo, std::string_view texto, size_t desde)
 bool Acaba(std::string_view tramo, std::string_view texto, size_t desde)
 {
     size_t pos = texto.size();
-    for (auto c = tramo.rbegin(); c != tramo.rend(); ++c) {
-        if (pos <= desde || (*c != kUno && texto[pos - 1] != *c))
+    for (const char c : tramo | std::views::reverse) {
+        if (pos <= desde || (c != kUno && texto[pos - 1] != c))
             return false;
         --pos;
-        while (*c == kUno && pos > desde && Continua(texto[pos]))
+        while (c == kUno && pos > desde && Continua(texto[pos]))
             --pos;
     }
     return true;

@@ -49,7 +49,7 @@ QString Valor(const Ventana& ventana, const Pieza& pieza, const clsConsulta& con
 {
     if (pieza.fuente == Fuente::Nada)
         return {};
-    const QString texto = ventana.texto(pieza.control);
+    const QString& texto = ventana.texto(pieza.control);
     switch (pieza.fuente) {
     case Fuente::Fecha:
         return consulta.sInicioFecha() + texto + consulta.sFinalFecha();

@@ -9,10 +9,10 @@ namespace valmerix {
 
 using namespace Qt::StringLiterals;
 
-ErrorAlmacen::ErrorAlmacen(const QString& mensaje, const QString& sql)
+ErrorAlmacen::ErrorAlmacen(const QString& mensaje, QString sql)
     : std::runtime_error(mensaje.toStdString())
     , mensaje_(mensaje)
-    , sql_(sql)
+    , sql_(std::move(sql))
 {
 }
 

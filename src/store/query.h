@@ -13,7 +13,7 @@ namespace valmerix {
 class ErrorAlmacen : public std::runtime_error
 {
 public:
-    ErrorAlmacen(const QString& mensaje, const QString& sql = {});
+    ErrorAlmacen(const QString& mensaje, QString sql = {});
     QString mensaje() const { return mensaje_; }
     QString sql() const { return sql_; }
 

@@ -92,7 +92,7 @@ constexpr Perfil kPerfilTerreno{26, 5};
 
 QString TodoEncendido(const Perfil& perfil)
 {
-    return QString(perfil.apartados + perfil.puntos, u'1');
+    return {perfil.apartados + perfil.puntos, u'1'};
 }
 
 QStringView Tipo(QStringView letra)

@@ -4,6 +4,7 @@
 #include "store/sql_tokens.h"
 
 #include <array>
+#include <ranges>
 
 namespace valmerix {
 
@@ -80,8 +81,8 @@ size_t BuscarPareja(const QString& sql, std::string_view utf8, const std::vector
 
 void AñadirOrdenEspañol(std::string& utf8, const std::vector<size_t>& finales)
 {
-    for (auto fin = finales.rbegin(); fin != finales.rend(); ++fin)
-        utf8.insert(*fin, " COLLATE ESPANOL");
+    for (const size_t fin : finales | std::views::reverse)
+        utf8.insert(fin, " COLLATE ESPANOL");
 }
 
 bool CierraTermino(const Ficha& ficha)

@@ -26,7 +26,7 @@ void AñadirPerfil(Ventana& ventana, QStringView nombre, int cuantas, const QStr
                   std::vector<Casilla*>& perfil)
 {
     for (int i = 0; i < cuantas; ++i) {
-        Casilla& casilla = ventana.Añadir<Casilla>(Ventana::Indice(nombre, i));
+        auto& casilla = ventana.Añadir<Casilla>(Ventana::Indice(nombre, i));
         casilla.setToolTip(ayuda);
         casilla.setValue(1);
         perfil.push_back(&casilla);

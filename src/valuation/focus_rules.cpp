@@ -95,9 +95,10 @@ void ReglasFoco::Conectar(const ReglaFoco& regla, CampoTexto& campo)
     campo.setMaxLength(regla.longitudVisible > 0 ? regla.longitudVisible : regla.longitudCrudo);
     QObject::connect(&campo, &Control::GotFocus, &ventana_, [this, &regla, &campo] { Tomar(regla, campo); });
     QObject::connect(&campo, &Control::LostFocus, &ventana_, [this, &regla, &campo] { Dejar(regla, campo); });
-    if (regla.alDejar == AlDejar::Superficie)
+    if (regla.alDejar == AlDejar::Superficie) {
         QObject::connect(&campo, &CampoTexto::Change, &ventana_,
                          [this, &campo] { TextoSuperficie_ = campo.Text(); });
+    }
 }
 
 void ReglasFoco::Tomar(const ReglaFoco& regla, CampoTexto& campo)

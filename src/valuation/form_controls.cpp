@@ -12,7 +12,7 @@ QStringList Elementos(const ControlForma& fila)
 
 Control& AñadirCampo(Ventana& ventana, const ControlForma& fila)
 {
-    CampoTexto& campo = ventana.Añadir<CampoTexto>(fila.nombre.toString());
+    auto& campo = ventana.Añadir<CampoTexto>(fila.nombre.toString());
     campo.setMultiLine(fila.clase == ClaseControl::TextoLargo);
     campo.setLocked(fila.clase == ClaseControl::Resultado);
     return campo;
@@ -20,7 +20,7 @@ Control& AñadirCampo(Ventana& ventana, const ControlForma& fila)
 
 Control& AñadirLista(Ventana& ventana, const ControlForma& fila)
 {
-    Lista& lista = ventana.Añadir<Lista>(fila.nombre.toString());
+    auto& lista = ventana.Añadir<Lista>(fila.nombre.toString());
     lista.setCerrada(fila.clase == ClaseControl::ListaCerrada);
     lista.setList(Elementos(fila));
     return lista;
@@ -28,7 +28,7 @@ Control& AñadirLista(Ventana& ventana, const ControlForma& fila)
 
 Control& AñadirOpciones(Ventana& ventana, const ControlForma& fila)
 {
-    GrupoOpciones& grupo = ventana.Añadir<GrupoOpciones>(fila.nombre.toString());
+    auto& grupo = ventana.Añadir<GrupoOpciones>(fila.nombre.toString());
     grupo.setTitulos(Elementos(fila));
     return grupo;
 }
