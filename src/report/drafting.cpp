@@ -38,7 +38,7 @@ InformeRedactado RedactarInforme(const CasoInforme& caso)
     IECC(r);
     CaracteristicasDelEdificio(r);
     Resto(r);
-    return {r.texto.texto(), r.cadenas, r.titulos.oColNegrita};
+    return {r.texto.texto(), r.cadenas, r.titulos.oColNegrita, r.frases};
 }
 
 QString Redactar(const CasoInforme& caso)

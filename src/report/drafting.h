@@ -1,5 +1,6 @@
 #pragma once
 
+#include "report/enumerations.h"
 #include "report/number_strings.h"
 
 #include <QStringList>
@@ -12,6 +13,7 @@ struct InformeRedactado
     QString texto; ///< lines end in CR LF
     CadenasNumericas cadenas;
     QStringList oColNegrita; ///< headings in the order in which they were asked for, "" for the silent ones
+    FrasesEnumeradas frases; ///< all of them, whether their sections are printed or silent
 };
 
 /// Drafts the whole report. Throws ErrorAlmacen (the valuer's data), ErrorDesbordamiento (a figure that is

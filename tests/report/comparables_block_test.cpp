@@ -53,6 +53,39 @@ TEST(ComparablesBlock, AnEmptyGridGivesNothing)
     }
 }
 
+TEST(ComparablesBlock, LandHasNoAge)
+{
+    CasoDePrueba terreno(u"Trno"_s);
+    terreno.ventana.rejilla(u"fgrSeleccion")
+        .AddItem(u"12\t03/02/2026\tC/ Ancha, 5\t46410\t15\t1\t3\t95,50\t112.000,00"_s);
+    EXPECT_EQ(AgregarTestigos(terreno.caso), u"\r\n\t Testigo Nº 1\r\n"
+                                             u"\t\tFecha Operación: 03/02/2026\r\n"
+                                             u"\t\tSituación: C/ Ancha, 5\r\n"
+                                             u"\t\tSuperficie: 95,50\r\n"
+                                             u"\t\tValoración: 112.000,00\r\n"_s);
+}
+
+TEST(ComparablesBlock, EveryBuildingHasAnAge)
+{
+    for (const QString& tipo : {u"Piso"_s, u"Apto"_s, u"Casa"_s, u"Nave"_s, u"Loca"_s}) {
+        CasoDePrueba caso(tipo);
+        AñadirTestigos(caso);
+        EXPECT_EQ(AgregarTestigos(caso.caso), kDosTestigos) << tipo.toStdString();
+    }
+}
+
+TEST(ComparablesBlock, AnEmptyRowInTheMiddleStopsTheListThoughFilledOnesFollow)
+{
+    CasoDePrueba piso;
+    AñadirTestigos(piso);
+    Rejilla& r = piso.ventana.rejilla(u"fgrSeleccion");
+    r.AddItem(u"5\t11/06/2026\tC/ Nueva, 1\t46410\t3\t1\t2\t70,00\t90.000,00"_s);
+    for (int columna = 0; columna < r.Cols(); ++columna)
+        r.setTextMatrix(2, columna, {});
+    const qsizetype primero = kDosTestigos.indexOf(u"\r\n\t Testigo Nº 2"_s);
+    EXPECT_EQ(AgregarTestigos(piso.caso), kDosTestigos.left(primero));
+}
+
 TEST(ComparablesBlock, AnEmptyRowStopsTheList)
 {
     CasoDePrueba piso;
