@@ -130,6 +130,17 @@ TEST(Environment, RawPopulationFiguresAreGrouped)
                   u"real o de hecho es de 0 habitantes."_s);
 }
 
+TEST(Environment, CommunicationsAreSaidInOneSentenceHoweverFew)
+{
+    CasoDePrueba piso;
+    piso.Apartados({3});
+    EXPECT_EQ(LineaTras(piso, u"Comunicaciones:"),
+              kL2 + u"Sobre sus comunicaciones, diremos que estas son muy deficientes."_s);
+    piso.Marcar({u"CheckMetro"});
+    EXPECT_EQ(LineaTras(piso, u"Comunicaciones:"),
+              kL2 + u"Sobre sus comunicaciones, diremos que solo cuenta con metro."_s);
+}
+
 TEST(Environment, TwoKindsOfEquipmentAreAnnouncedOnlyWhenBothSectionsAreOn)
 {
     CasoDePrueba piso;

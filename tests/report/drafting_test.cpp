@@ -43,6 +43,31 @@ TEST(Drafting, AFlatWithItsProfileOffKeepsTheFixedChapters)
     CompararConModelo(piso, u"flat_bare.txt"_s);
 }
 
+TEST(Drafting, AFlatWithItsSectionsOffIsTheSameWhateverItsLines)
+{
+    CasoDePrueba piso;
+    RellenarPiso(piso);
+    for (int i = 0; i < kApartadosDePrueba; ++i)
+        piso.Apartados({i}, 0);
+    piso.Escribir({{u"txtObservaciones", u""}});
+    CompararConModelo(piso, u"flat_bare.txt"_s);
+}
+
+TEST(Drafting, TheSentencesOfASilentSectionAreComposedAllTheSame)
+{
+    CasoDePrueba piso;
+    RellenarPiso(piso);
+    piso.Perfil(false);
+    const InformeRedactado informe = RedactarInforme(piso.caso);
+    EXPECT_EQ(informe.frases.FraseDistribucion,
+              u"Interiormente la vivienda se distribuye en  cocina,  galería, sala de estar, tres "
+              u"dormitorios, una estancia destinada a despacho, un baño, un aseo y dos terrazas."_s);
+    EXPECT_EQ(informe.frases.FraseDocumentacion,
+              u"Se adjuntan escritura pública de propiedad y nota simple."_s);
+    for (const QString& frase : {informe.frases.FraseDistribucion, informe.frases.FraseDocumentacion})
+        EXPECT_FALSE(informe.texto.contains(frase));
+}
+
 TEST(Drafting, AnApartmentWithItsWholeProfile)
 {
     CasoDePrueba apto(u"Apto"_s);

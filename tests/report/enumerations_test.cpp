@@ -133,6 +133,15 @@ TEST(Enumerations, OnlyAHouseSpeaksOfIndividualServices)
               u"  En cuanto a servicios de tipo individual, tan solo cuenta con servicio de portería."_s);
 }
 
+TEST(Enumerations, AHousesOwnParkingIsItsOwn)
+{
+    CasoDePrueba casa(u"Casa"_s);
+    casa.Marcar({u"CheckApar2"});
+    EXPECT_EQ(Frases(casa).FraseServiciosIndividuales,
+              u"  En cuanto a servicios de tipo individual, tan solo cuenta con aparcamiento para uso "
+              u"privativo."_s);
+}
+
 TEST(Enumerations, OtherDocumentsAreHerOwnWordsAndNeverTakeE)
 {
     CasoDePrueba piso;

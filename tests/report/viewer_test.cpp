@@ -50,6 +50,7 @@ TEST(Viewer, FindsForwardAndStartsAgainAfterTheLast)
     v.Pulsar(u"BttBuscar");
     ASSERT_EQ(v.dialogos.mensajes.size(), 1U);
     EXPECT_EQ(v.dialogos.mensajes[0].texto, u"No se encuentra la cadena especificada"_s);
+    EXPECT_EQ(v.dialogos.mensajes[0].titulo, u"Aviso"_s);
     EXPECT_EQ(v.visor->UltimaBusqueda(), 0);
     v.Pulsar(u"BttBuscar");
     EXPECT_EQ(v.texto().SelStart(), 0);

@@ -112,6 +112,8 @@ TEST(WordProcessorChooser, ExplainsItself)
         e.dialogos.mensajes[0].texto,
         u"Seleccionar por orden la unidad, directorio y programa de tratamiento de textos deseado. La lista "
         u"solo facilita los ficheros con extensión *.exe para agilizar"_s);
+    EXPECT_EQ(e.dialogos.mensajes[0].titulo, u"Cuadro de selección del tratamiento de textos"_s);
+    EXPECT_EQ(e.dialogos.mensajes[0].icono, IconoMensaje::Informacion);
 }
 
 } // namespace valmerix
