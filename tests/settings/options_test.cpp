@@ -57,6 +57,14 @@ TEST_F(OpcionesTest, LoadShowsTheInstalledRow)
     EXPECT_EQ(ventana->control(u"chkEncabezamiento(1)").Caption(), u"Número/Fecha Inscripción"_s);
 }
 
+TEST_F(OpcionesTest, LoadReadsTheWholeRowOnceAndNothingElse)
+{
+    QStringList textos;
+    entorno.compartido.alEjecutarSQL = [&](QStringView, QStringView sql) { textos << sql.toString(); };
+    const auto ventana = Abrir();
+    EXPECT_EQ(textos, QStringList{u"SELECT * FROM Opciones"_s});
+}
+
 TEST_F(OpcionesTest, ClosingByAKeyRunsTheRuleOfTheFieldInHand)
 {
     const auto ventana = Abrir();

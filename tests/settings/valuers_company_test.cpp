@@ -141,6 +141,8 @@ TEST_F(FichaTest, OkAsksForTheValuerInHandAndStoresTheCompany)
     ficha.boton(u"bttOK").Pulsar();
     EXPECT_EQ(entorno.dialogos.preguntas[0].texto, u"Se están editando los datos de un tasador.\n"
                                                    u"¿Desea actualizar la lista con dichos cambios?"_s);
+    EXPECT_EQ(entorno.dialogos.preguntas[0].titulo, u"Aviso"_s);
+    EXPECT_EQ(entorno.dialogos.preguntas[0].icono, IconoMensaje::Pregunta);
     EXPECT_FALSE(ficha.abierta());
     EXPECT_EQ(Tasadores().RecordCount(), 1);
     const ConjuntoResultados empresa = base.Leer(u"SELECT * FROM Empresa"_s);
@@ -170,6 +172,25 @@ TEST_F(FichaTest, CancelWithACompanyNameTypedButNotSavedPassesTheClosingTest)
     EXPECT_FALSE(ficha.abierta());
     EXPECT_TRUE(entorno.dialogos.preguntas.empty());
     EXPECT_EQ(base.Leer(u"SELECT * FROM Empresa"_s).Texto(u"Nombre"), QString());
+}
+
+TEST_F(FichaTest, CancelLosesTheValuerInHandAndAsksNothing)
+{
+    base.Ejecutar(u"INSERT INTO Tasadores (Nombre,Contador,Poblacion) VALUES ('Pau',7,'Alcoi')"_s);
+    ficha.Load();
+    ficha.campo(u"txtNombreEmpresa").setText(u"Túria"_s);
+    for (const QString& nombre : {u"Rosa"_s, u"Pau"_s}) {
+        EscribirTasador(nombre, u"Dénia"_s);
+        ficha.Enfocar(u"txtNombreTasador");
+    }
+    QStringList textos;
+    entorno.compartido.alEjecutarSQL = [&](QStringView, QStringView sql) { textos << sql.toString(); };
+    ficha.boton(u"bttCancel").Pulsar();
+    EXPECT_FALSE(ficha.abierta());
+    EXPECT_TRUE(entorno.dialogos.preguntas.empty());
+    EXPECT_EQ(textos, QStringList());
+    ASSERT_EQ(Tasadores().RecordCount(), 1);
+    EXPECT_EQ(Tasadores().Texto(u"Poblacion"), u"Alcoi"_s);
 }
 
 TEST_F(FichaTest, AChangeOfCompanyNameReplacesTheOneRow)
@@ -237,6 +258,25 @@ TEST_F(FichaTest, TheStatementsAreTheSystemsOwn)
             u"NIF = '', Titulacion = '', ColegioOficial = '', ColegiadoNumero = '' WHERE Nombre = 'Pau'"_s,
             u"SELECT '' As Vacio, Nombre, Poblacion, Provincia FROM Tasadores ORDER BY Nombre"_s,
         }));
+    textos.clear();
+    ficha.rejilla(u"Flexi").DoblePulsar(1);
+    EXPECT_EQ(textos,
+              QStringList{u"SELECT Nombre, Domicilio, Poblacion, CodigoPostal, Provincia, NIF, Titulacion, "
+                          u"ColegioOficial, ColegiadoNumero FROM Tasadores WHERE Nombre = 'Pau'"_s});
+    textos.clear();
+    ficha.EliminarRegistro();
+    EXPECT_EQ(textos,
+              (QStringList{
+                  u"DELETE FROM Tasadores WHERE Nombre = 'Pau'"_s,
+                  u"SELECT '' As Vacio, Nombre, Poblacion, Provincia FROM Tasadores ORDER BY Nombre"_s,
+              }));
+    textos.clear();
+    ficha.Load();
+    EXPECT_EQ(textos,
+              (QStringList{
+                  u"SELECT * FROM Empresa"_s,
+                  u"SELECT '' As Vacio, Nombre, Poblacion, Provincia FROM Tasadores ORDER BY Nombre"_s,
+              }));
 }
 
 } // namespace
