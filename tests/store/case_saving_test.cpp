@@ -1,52 +1,8 @@
-#include "store/case_saving.h"
-
-#include "store/case_loading.h"
-#include "support/fake_open_case.h"
-#include "support/fake_ports.h"
-#include "support/qt_printers.h"
-#include "support/store_fixture.h"
+#include "store/case_saving_fixture.h"
 
 using namespace Qt::StringLiterals;
 
 namespace valmerix {
-
-namespace {
-
-const auto kSinTasador =
-    u"No se puede guardar la tasación sin seleccionar un Tasador de la lista de Tasadores"_s;
-const auto kSobreescribir =
-    u"Ya existe un informe anterior de este tasador y con este número. ¿Desea sobreescribirlo?"_s;
-
-class CaseSaving : public testing::Test
-{
-protected:
-    AlmacenDePrueba almacen;
-    FakeDialogos dialogos;
-    FakeCasoAbierto piso{u"Piso"_s, {u"Ana"_s, u"Eva"_s}};
-
-    void SetUp() override
-    {
-        almacen.AltaDeTasador(u"Ana"_s, 41);
-        Rellenar(piso);
-    }
-    static void Rellenar(FakeCasoAbierto& caso)
-    {
-        caso.Elegir(u"Ana"_s);
-        caso.Escribir(u"BoxFecha", u"20/11/2026"_s);
-        caso.Escribir(u"BoxSit", u"Calle Mayor, 3"_s);
-        caso.Escribir(u"BoxMun", u"Sueca"_s);
-        caso.Escribir(u"BoxConst", u"1.093,456"_s);
-        caso.Escribir(u"BoxTotal", u"125.000,00"_s);
-    }
-    bool Salvar(FakeCasoAbierto& caso)
-    {
-        almacen.sql.clear();
-        return SalvaVivienda(caso, almacen.compartido, dialogos);
-    }
-    bool Salvar() { return Salvar(piso); }
-};
-
-} // namespace
 
 TEST_F(CaseSaving, ANewCaseRunsTheseStatementsInThisOrder)
 {
@@ -103,28 +59,6 @@ TEST_F(CaseSaving, ANewCaseRunsTheseStatementsInThisOrder)
         EXPECT_EQ(almacen.sql[i], esperado[i]);
 }
 
-TEST_F(CaseSaving, TheFirstSaveDrawsTheNextNumberAndTheSecondOneOnlyRewrites)
-{
-    ASSERT_TRUE(Salvar());
-    EXPECT_EQ(almacen.compartido.NumeroTasacionActual, 42);
-    EXPECT_EQ(almacen.Dato(u"SELECT Contador FROM Tasadores"_s), u"42"_s);
-    EXPECT_EQ(almacen.Leer(u"SELECT * FROM Testigos WHERE Origen = 'I' AND Tasacion = -42"_s).RecordCount(),
-              1);
-
-    dialogos.respuestas = {true};
-    piso.Escribir(u"BoxSit", u"Calle Menor, 4"_s);
-    ASSERT_TRUE(Salvar());
-    ASSERT_EQ(dialogos.preguntas.size(), 1U);
-    EXPECT_EQ(dialogos.preguntas[0].texto, kSobreescribir);
-    EXPECT_EQ(dialogos.preguntas[0].titulo, u"Salvar Datos"_s);
-    EXPECT_EQ(dialogos.preguntas[0].icono, IconoMensaje::Pregunta);
-    EXPECT_EQ(almacen.sql.filter(u"INSERT"_s), QStringList());
-    EXPECT_EQ(almacen.sql.size(), 8);
-    EXPECT_EQ(almacen.Dato(u"SELECT Contador FROM Tasadores"_s), u"42"_s);
-    EXPECT_EQ(almacen.Dato(u"SELECT Situacion FROM Viviendas"_s), u"Calle Menor, 4"_s);
-    EXPECT_EQ(almacen.Dato(u"SELECT Situacion FROM Testigos"_s), u"Calle Menor, 4"_s);
-}
-
 TEST_F(CaseSaving, SuccessIsTold)
 {
     Salvar();
@@ -132,26 +66,6 @@ TEST_F(CaseSaving, SuccessIsTold)
     EXPECT_EQ(dialogos.mensajes[0].texto, u"Informe guardado con éxito"_s);
     EXPECT_EQ(dialogos.mensajes[0].titulo, u"Aviso"_s);
     EXPECT_EQ(dialogos.mensajes[0].icono, IconoMensaje::Informacion);
-}
-
-TEST_F(CaseSaving, WithoutAValuerNothingIsWritten)
-{
-    piso.Elegir({});
-    EXPECT_FALSE(Salvar());
-    ASSERT_EQ(dialogos.mensajes.size(), 1U);
-    EXPECT_EQ(dialogos.mensajes[0].texto, kSinTasador);
-    EXPECT_EQ(dialogos.mensajes[0].titulo, u"Salvar Datos"_s);
-    EXPECT_EQ(dialogos.mensajes[0].icono, IconoMensaje::Informacion);
-    EXPECT_EQ(almacen.sql, QStringList());
-}
-
-TEST_F(CaseSaving, AValuerWhoIsNotStoredGetsNoNumberAndNoMessage)
-{
-    piso.Elegir(u"Eva"_s);
-    EXPECT_FALSE(Salvar());
-    EXPECT_TRUE(dialogos.mensajes.empty());
-    EXPECT_EQ(almacen.compartido.NumeroTasacionActual, 0);
-    EXPECT_EQ(almacen.Dato(u"SELECT COUNT(*) FROM Viviendas"_s), u"0"_s);
 }
 
 TEST_F(CaseSaving, TheAnswerNoWritesNothingNotEvenTheImages)
@@ -164,41 +78,6 @@ TEST_F(CaseSaving, TheAnswerNoWritesNothingNotEvenTheImages)
     EXPECT_EQ(almacen.sql, QStringList());
     EXPECT_EQ(dialogos.mensajes.size(), 1U);
     EXPECT_EQ(almacen.Dato(u"SELECT COUNT(*) FROM ImagenesAsociadas"_s), u"1"_s);
-}
-
-TEST_F(CaseSaving, ChangingTheValuerOfAnOpenCaseNeverMovesIt)
-{
-    ASSERT_TRUE(Salvar());
-    almacen.AltaDeTasador(u"Eva"_s, 3);
-    piso.Elegir(u"Eva"_s);
-    dialogos.respuestas = {true};
-    EXPECT_FALSE(Salvar());
-    EXPECT_EQ(almacen.sql.size(), 1);
-    EXPECT_EQ(dialogos.mensajes.size(), 1U) << "that of the first save";
-    EXPECT_EQ(almacen.Dato(u"SELECT NombreTasador FROM Viviendas"_s), u"Ana"_s);
-}
-
-TEST_F(CaseSaving, ACopyCountsAsNew)
-{
-    ASSERT_TRUE(Salvar());
-    almacen.compartido.NumeroTasacionActual = 0;
-    ASSERT_TRUE(Salvar());
-    EXPECT_EQ(almacen.compartido.NumeroTasacionActual, 43);
-    EXPECT_EQ(almacen.Dato(u"SELECT COUNT(*) FROM Viviendas"_s), u"2"_s);
-    EXPECT_EQ(almacen.Dato(u"SELECT COUNT(*) FROM Testigos"_s), u"2"_s);
-}
-
-TEST_F(CaseSaving, TwoValuersMayHaveTheSameNumber)
-{
-    almacen.AltaDeTasador(u"Eva"_s, 41);
-    ASSERT_TRUE(Salvar());
-    FakeCasoAbierto otro(u"Piso"_s, {u"Eva"_s});
-    Rellenar(otro);
-    otro.Elegir(u"Eva"_s);
-    almacen.compartido.NumeroTasacionActual = 0;
-    ASSERT_TRUE(Salvar(otro));
-    EXPECT_EQ(almacen.compartido.NumeroTasacionActual, 42);
-    EXPECT_EQ(almacen.Dato(u"SELECT COUNT(*) FROM Viviendas WHERE NumeroTasacion = 42"_s), u"2"_s);
 }
 
 TEST_F(CaseSaving, AHouseWritesItsPrivateServicesInThePlaceOfWhatItHasNot)
@@ -230,6 +109,20 @@ TEST_F(CaseSaving, AFlatWithLiftsSaysSoInItsComparableAndLeavesPrivateServicesAl
     EXPECT_FALSE(almacen.Leer(u"SELECT ServiciosIndividuales FROM Viviendas"_s)
                      .Valor(u"ServiciosIndividuales")
                      .isValid());
+}
+
+TEST_F(CaseSaving, AnApartmentLeavesPrivateServicesAloneToo)
+{
+    FakeCasoAbierto apto(u"Apto"_s, {u"Ana"_s});
+    Rellenar(apto);
+    ASSERT_TRUE(Salvar(apto));
+    EXPECT_EQ(almacen.sql.size(), 12);
+    EXPECT_EQ(almacen.sql.filter(u"ServiciosIndividuales"_s), QStringList());
+    EXPECT_EQ(almacen.sql.filter(u"VivPorPlanta = 0.00"_s).size(), 1);
+    almacen.Ejecutar(u"UPDATE Viviendas SET ServiciosIndividuales = '101010'"_s);
+    dialogos.respuestas = {true};
+    ASSERT_TRUE(Salvar(apto));
+    EXPECT_EQ(almacen.Dato(u"SELECT ServiciosIndividuales FROM Viviendas"_s), u"101010"_s);
 }
 
 TEST_F(CaseSaving, FieldsAColumnHoldsForAnotherKindStayAsTheyWere)
@@ -345,15 +238,6 @@ TEST_F(CaseSaving, AStraightQuoteStopsTheSaveWhereItStandsAndWhatWasDoneStays)
     dialogos.respuestas = {true};
     EXPECT_TRUE(Salvar()) << "once mended the same case is saved";
     EXPECT_EQ(almacen.Dato(u"SELECT COUNT(*) FROM Viviendas"_s), u"1"_s);
-}
-
-TEST_F(CaseSaving, ANumberThatWasDrawnForNothingIsGivenBack)
-{
-    almacen.Ejecutar(u"INSERT INTO Viviendas (NombreTasador,Tipo,NumeroTasacion) VALUES ('Ana','P',42)"_s);
-    EXPECT_THROW(Salvar(), ErrorAlmacen);
-    EXPECT_EQ(almacen.compartido.NumeroTasacionActual, 0);
-    EXPECT_TRUE(Salvar()) << "the next one is free";
-    EXPECT_EQ(almacen.compartido.NumeroTasacionActual, 43);
 }
 
 TEST_F(CaseSaving, AnAbsurdNumberStopsTheSaveWithoutHarm)

@@ -88,6 +88,23 @@ TEST(Schema, TheKeyStaysUniqueWhateverTheCaseOfItsLetters)
               u""_s);
 }
 
+TEST(Schema, NoTableOfCasesTakesAKeyTwice)
+{
+    const AlmacenDePrueba almacen;
+    for (const auto& [tabla, letra] : {std::pair{u"Viviendas"_s, u"A"_s},
+                                       {u"Naves"_s, u"N"_s},
+                                       {u"Locales"_s, u"L"_s},
+                                       {u"Terrenos"_s, u"T"_s}}) {
+        const QString alta =
+            u"INSERT INTO %1 (NombreTasador, Tipo, NumeroTasacion) VALUES ('Ana','%2',42)"_s.arg(tabla,
+                                                                                                 letra);
+        almacen.Ejecutar(alta);
+        const QString fallo = Fallo([&] { almacen.Ejecutar(alta); });
+        EXPECT_TRUE(fallo.startsWith(u"Ya hay una fila con la misma clave ("_s)) << fallo.toStdString();
+        EXPECT_EQ(almacen.Dato(u"SELECT COUNT(*) FROM "_s + tabla), u"1"_s);
+    }
+}
+
 TEST(Schema, NeverTouchesAFileThatIsThere)
 {
     const QTemporaryDir carpeta;
