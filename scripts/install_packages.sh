@@ -4,10 +4,10 @@
 set -euo pipefail
 
 run=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-translations-l10n
-     libsqlitecpp-dev libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core
+     libsqlitecpp-dev libsqlite3-dev libmd4c-dev libmd4c-html0-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core
      fonts-liberation sqlite3)
-test=(appstream clang clang-format clang-tidy libclang-rt-14-dev desktop-file-utils git lld
-      poppler-utils procps python3 strace xauth xvfb libreoffice-writer)
+test=(appstream clang clang-format clang-tidy libclang-rt-14-dev desktop-file-utils dpkg-dev fakeroot git groff lintian lld
+      man-db poppler-utils procps python3 strace xauth xvfb libreoffice-writer)
 
 case "${1:-run}" in
     run) wanted=("${run[@]}") ;;

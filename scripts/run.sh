@@ -10,12 +10,12 @@ scripts/install_packages.sh run
 mkdir -p build
 command -v ccache >/dev/null && export CMAKE_CXX_COMPILER_LAUNCHER=ccache
 cmake --preset release >build/configure.txt 2>&1 || { cat build/configure.txt; exit 1; }
-cmake --build --preset release --target valmerix valmerix-informe valmerix-muestras valmerix-fotos
+cmake --build --preset release --target valmerix valmerix-informe valmerix-muestras valmerix-fotos manual
 bin=build/release/bin
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     mkdir -p programa
-    cp -u "$bin/valmerix" "$bin/valmerix-informe" programa/
+    cp -u "$bin/valmerix" "$bin/valmerix-informe" "$bin/Valmerix.chm" programa/
     exec programa/valmerix
 fi
 

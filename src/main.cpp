@@ -3,6 +3,8 @@
 #include "ui/capture.h"
 #include "ui/desktop.h"
 #include "ui/dialogs.h"
+#include "ui/extension_loader.h"
+#include "ui/help_port.h"
 #include "ui/machine.h"
 #include "ui/printing_port.h"
 
@@ -15,7 +17,11 @@ int main(int argc, char* argv[])
     valmerix::CapturaQt captura;
     valmerix::PantallaQt pantalla;
     valmerix::ImpresionQt impresion(dialogos);
-    valmerix::Aplicacion valmerix({dialogos, reloj, sistema, pantalla, captura, impresion});
+    valmerix::AyudaQt ayuda;
+    valmerix::CargadorQt extension;
+    valmerix::Aplicacion valmerix(
+        {dialogos, reloj, sistema, pantalla, captura, impresion, &ayuda, &extension});
+    qt.setAyuda([&valmerix](const QString& ventana) { valmerix.MostrarAyuda(ventana); });
     qt.setInforme([&valmerix](const std::exception& fallo) { valmerix.InformarFallo(fallo); });
     valmerix.Arrancar();
     return valmerix::AplicacionQt::exec();

@@ -9,6 +9,9 @@
 #include "ui/capture.h"
 #include "ui/desktop.h"
 #include "ui/dialogs.h"
+#include "ui/help_port.h"
+#include "ui/help_window.h"
+#include "ui/icons.h"
 #include "ui/machine.h"
 #include "ui/printing_port.h"
 #include "valuation/case_form.h"
@@ -16,10 +19,13 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QImage>
+#include <QPainter>
 #include <QSaveFile>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 
@@ -28,6 +34,8 @@ namespace valmerix {
 namespace {
 
 constexpr int kRespiro = 400; // ms for the windows to settle
+constexpr int kPaginaValoracion = 4;
+constexpr QSize kFotografia(640, 480);
 
 void Esperar(int ms)
 {
@@ -40,9 +48,10 @@ void Esperar(int ms)
 class Reportaje
 {
 public:
-    Reportaje(Aplicacion& aplicacion, PantallaQt& pantalla, const QDir& carpeta)
+    Reportaje(Aplicacion& aplicacion, PantallaQt& pantalla, const AyudaQt& ayuda, const QDir& carpeta)
         : aplicacion_(aplicacion)
         , pantalla_(pantalla)
+        , ayuda_(ayuda)
         , carpeta_(carpeta)
     {
     }
@@ -52,11 +61,22 @@ public:
     {
         aplicacion_.Arrancar();
         aplicacion_.inicio()->TerminarPortada();
+        Esperar(kRespiro);
+        if (VistaVentana* inicio = pantalla_.vista(*aplicacion_.inicio())) {
+            for (auto* arbol : inicio->findChildren<QTreeView*>())
+                arbol->expandAll();
+        }
         Retratar(aplicacion_.inicio(), u"inicio"_s);
         aplicacion_.AbrirCaso(PrimerCaso());
+        Retratar(aplicacion_.paleta(), u"herramientas"_s);
         RetratarPaginas(*aplicacion_.FormularioActual());
+        RetratarPendiente(*aplicacion_.FormularioActual());
+        RetratarModal(u"ficha"_s, [this] { aplicacion_.MostrarFicha(); });
+        RetratarModal(u"opciones"_s, [this] { aplicacion_.EjecutarOrden(OrdenPaleta::Opciones); });
         aplicacion_.EjecutarOrden(OrdenPaleta::Informe);
         Retratar(aplicacion_.visor(), u"visor"_s);
+        RetratarModal(u"previa"_s, [this] { aplicacion_.Imprimir(); });
+        RetratarAyuda();
         return completo_;
     }
 
@@ -64,6 +84,7 @@ private:
     void RetratarPaginas(Formulario& piso)
     {
         piso.ActualizarResultados();
+        PonerFotografia(piso);
         auto& paginas = piso.como<Solapas>(u"SSTab1");
         for (int pagina = 0; pagina < paginas.paginas(); ++pagina) {
             paginas.setTab(pagina);
@@ -71,10 +92,67 @@ private:
         }
     }
 
+    // The samples' photographs are nobody's files: a drawn house stands for one.
+    void PonerFotografia(Formulario& piso)
+    {
+        const QString ruta = fotografias_.filePath(u"Fachada principal.jpg"_s);
+        QImage foto(kFotografia, QImage::Format_RGB32);
+        foto.fill(QColor(0xbf, 0xdb, 0xf7));
+        QPainter pintor(&foto);
+        pintor.fillRect(QRect(0, kFotografia.height() * 4 / 5, kFotografia.width(), kFotografia.height()),
+                        QColor(0x8a, 0xb0, 0x6a));
+        Icono(u"piso"_s, QColor(0x5b, 0x4a, 0x3f)).paint(&pintor, foto.rect());
+        pintor.end();
+        foto.save(ruta);
+        auto& imagenes = piso.rejilla(u"GridImagen");
+        imagenes.AddItem(ruta + u"\tFachada principal"_s);
+        imagenes.setRow(imagenes.Rows() - 1);
+        imagenes.Pulsar(imagenes.Rows() - 1);
+        piso.campo(u"txtRutaImagen").setText(ruta);
+    }
+
+    void RetratarAyuda()
+    {
+        aplicacion_.MostrarAyuda(u"Piso"_s);
+        Esperar(kRespiro);
+        Guardar(ayuda_.ventana(), u"ayuda"_s);
+    }
+
+    // Results that no longer hold, as she sees them after touching a figure.
+    void RetratarPendiente(Formulario& piso)
+    {
+        piso.como<Solapas>(u"SSTab1").setTab(kPaginaValoracion);
+        const QString coste = piso.texto(u"BoxCc");
+        piso.Enfocar(u"BoxCc");
+        piso.campo(u"BoxCc").Teclear(u"7"_s);
+        Retratar(&piso, u"pendiente"_s);
+        piso.campo(u"BoxCc").setText(coste);
+        piso.Enfocar(nullptr);
+        piso.boton(u"SSCommand7").Pulsar();
+    }
+
     void Retratar(const Ventana* ventana, const QString& nombre)
     {
         Esperar(kRespiro);
         VistaVentana* vista = ventana ? pantalla_.vista(*ventana) : nullptr;
+        Guardar(vista, nombre);
+    }
+
+    /// `mostrar` comes back once the window that it shows has been closed.
+    template <class F>
+    void RetratarModal(const QString& nombre, F mostrar)
+    {
+        QTimer::singleShot(2 * kRespiro, [this, nombre] {
+            QWidget* vista = QApplication::activeModalWidget();
+            Guardar(vista, nombre);
+            if (vista)
+                vista->close();
+        });
+        mostrar();
+    }
+
+    void Guardar(QWidget* vista, const QString& nombre)
+    {
         completo_ = vista && vista->grab().save(carpeta_.filePath(nombre + u".png"_s)) && completo_;
     }
 
@@ -90,7 +168,9 @@ private:
 
     Aplicacion& aplicacion_;
     PantallaQt& pantalla_;
+    const AyudaQt& ayuda_;
     QDir carpeta_;
+    QTemporaryDir fotografias_;
     bool completo_ = true;
 };
 
@@ -125,9 +205,10 @@ int main(int argc, char* argv[])
     CapturaQt captura;
     PantallaQt pantalla;
     ImpresionQt impresion(dialogos);
-    Aplicacion aplicacion({dialogos, reloj, sistema, pantalla, captura, impresion});
+    AyudaQt ayuda;
+    Aplicacion aplicacion({dialogos, reloj, sistema, pantalla, captura, impresion, &ayuda});
     try {
-        return Reportaje(aplicacion, pantalla, QDir(argumentos.at(2))).Hacer() ? 0 : 1;
+        return Reportaje(aplicacion, pantalla, ayuda, QDir(argumentos.at(2))).Hacer() ? 0 : 1;
     } catch (const std::exception& fallo) {
         QTextStream(stderr) << QString::fromUtf8(fallo.what()) << Qt::endl;
         return 1;

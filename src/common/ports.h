@@ -37,6 +37,9 @@ public:
     virtual ~Sistema() = default;
     /// Absolute, without a separator at its end.
     virtual QString carpetaPrograma() const = 0;
+    /// Where the files of the installation stand that nobody changes; the program's folder unless a package
+    /// has installed them elsewhere.
+    virtual QString carpetaInstalacion() const { return carpetaPrograma(); }
     /// True when another instance already runs for this program folder.
     virtual bool otraInstancia() = 0;
     /// Starts `orden` with `argumentos` in `carpeta`; false when it could not be started.

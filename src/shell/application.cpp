@@ -236,6 +236,12 @@ void Aplicacion::EjecutarOrden(OrdenPaleta orden)
     case OrdenPaleta::Guardar:
         Guardar();
         break;
+    case OrdenPaleta::Ayuda:
+        MostrarAyuda();
+        break;
+    case OrdenPaleta::Extension:
+        EjecutarExtension();
+        break;
     default:
         break; // the other buttons stand disabled
     }
@@ -250,7 +256,8 @@ void Aplicacion::RedactarInforme()
     calculos_ = std::make_unique<Calculos>(
         CasoInforme{*formulario_, formulario_->nombre(), calculo_, frases_, opciones_, compartido_}, *visor_,
         puertos_.sistema, *this);
-    calculos_->TipoDocumento = u"Informe"_s;
+    TipoDocumento_ = u"Informe"_s;
+    calculos_->TipoDocumento = TipoDocumento_;
     calculos_->Load();
     puertos_.pantalla.Mostrar(*calculos_);
 }
@@ -280,12 +287,12 @@ void Aplicacion::CerrarVisor()
 
 void Aplicacion::MostrarOpciones()
 {
-    Opciones configuracion(compartido_, opciones_, puertos_.sistema, puertos_.captura, *this,
-                           puertos_.pantalla);
-    configuracion.Load();
-    puertos_.pantalla.MostrarModal(configuracion);
+    // As an extension has left it, or afresh.
+    const std::unique_ptr<Opciones> configuracion =
+        configuracion_ ? std::move(configuracion_) : CrearConfiguracion();
+    puertos_.pantalla.MostrarModal(*configuracion);
     if (formulario_)
-        formulario_->ActualizarMoneda(configuracion.texto(u"Text6"));
+        formulario_->ActualizarMoneda(configuracion->texto(u"Text6"));
 }
 
 void Aplicacion::Imprimir()
@@ -364,43 +371,6 @@ void Aplicacion::Minimizar()
 Ventana* Aplicacion::ventanaDelCaso()
 {
     return formulario_.get();
-}
-
-void Aplicacion::MostrarPaleta(bool abierta)
-{
-    if (!abierta) {
-        CerrarPaleta();
-        return;
-    }
-    MostrarPaletaEn(static_cast<int>(compartido_.PosicionLeft + compartido_.PosicionWidth),
-                    static_cast<int>(compartido_.PosicionTop));
-}
-
-void Aplicacion::MostrarPaletaEn(int izquierda, int arriba)
-{
-    if (!formulario_ || !formulario_->visible()) // it comes with the window, not before it
-        return;
-    if (!paleta_ || !paleta_->abierta()) {
-        paleta_ = std::make_unique<Form2>(formulario_->nombre());
-        paleta_->Servir(*formulario_);
-        connect(paleta_.get(), &Ventana::Cerrada, this, [this] { compartido_.PaletaAbierta = false; });
-        connect(paleta_.get(), &Form2::Pedida, this, &Aplicacion::EjecutarOrden);
-        connect(paleta_.get(), &Form2::CierrePedido, this, [this] {
-            compartido_.CierrePaleta = true;
-            formulario_->control(u"SSCommand3").setTag(u"N"_s);
-            compartido_.CierrePaleta = false;
-            CerrarPaleta();
-        });
-    }
-    QRect lugar = paleta_->lugar();
-    lugar.moveTopLeft({izquierda, arriba});
-    paleta_->Mover(lugar);
-    puertos_.pantalla.Mostrar(*paleta_);
-}
-
-void Aplicacion::CerrarPaleta()
-{
-    Retirar(paleta_);
 }
 
 } // namespace valmerix

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/extension.h"
 #include "common/ports.h"
 #include "common/printed_document.h"
 #include "report/viewer_environment.h"
@@ -21,7 +22,9 @@ class Calculos;
 class Ficha;
 class Form1;
 class Formulario;
+class Manual;
 class Visor;
+class VisorAyuda;
 class VisorMin;
 
 /// The outside of the program, handed in once.
@@ -33,6 +36,8 @@ struct Puertos
     Pantalla& pantalla;
     CapturaImagenes& captura;
     Impresion& impresion;
+    VisorAyuda* ayuda = nullptr;              ///< null: nothing opens the manual
+    CargadorExtensiones* extension = nullptr; ///< null: there is no module
 };
 
 /// The program: owns the shared state and the windows, and joins them. One case window at a time stands
@@ -63,6 +68,9 @@ public:
     /// A new case of the kind of button `indice` (0 to 5).
     void NuevoCaso(int indice);
     void EjecutarOrden(OrdenPaleta orden);
+    /// The manual, on the page that tells of the window of that name; where it was left when it is
+    /// empty. A manual that cannot be read is told.
+    void MostrarAyuda(const QString& ventana = {});
     /// Closes every window of the case, clears its state and shows the start window afresh.
     void Reiniciar();
 
@@ -106,6 +114,10 @@ private:
     void Guardar();
     void RedactarInforme();
     void CerrarVisor();
+    /// Throws std::runtime_error with the words of what the module has thrown.
+    void EjecutarExtension();
+    std::unique_ptr<Opciones> CrearConfiguracion();
+    void Iniciar(clsVMXtension& extension);
     void LimpiarEstado();
     /// Keeps a window that is done with until its running event has ended.
     template <class T>
@@ -132,6 +144,10 @@ private:
     std::unique_ptr<Visor> visor_;
     std::unique_ptr<VisorMin> visorMin_;
     std::unique_ptr<Calculos> calculos_;
+    std::unique_ptr<Opciones> configuracion_; ///< as an extension has left it, until it is next shown
+    std::shared_ptr<const Manual> manual_;
+    QString TipoDocumento_; ///< of what is drafted next
+    bool enExtension_ = false;
 };
 
 } // namespace valmerix

@@ -23,8 +23,8 @@ constexpr std::array kBotonera = {
     FilaBoton{u"Guardar", u"Guardar esta tasación"},
     FilaBoton{u"Importar", u""},
     FilaBoton{u"Exportar", u""},
-    FilaBoton{u"Ayuda", u""},
-    FilaBoton{u"Extensión", u""},
+    FilaBoton{u"Ayuda", u"Manual de Valmerix"},
+    FilaBoton{u"Extensión", u"Módulo de extensión"},
     FilaBoton{u"Listados", u""},
     FilaBoton{u"Testigos", u""},
 };

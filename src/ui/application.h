@@ -19,6 +19,14 @@ public:
 
     /// What is told of a failure. Without it a failure ends the program, as any unhandled one does.
     void setInforme(Informe informe) { informe_ = std::move(informe); }
+    /// What F1 opens: the help on the window of that name. Without it the key does nothing.
+    void setAyuda(std::function<void(const QString&)> ayuda) { ayuda_ = std::move(ayuda); }
+    void PedirAyuda(const QString& ventana) const
+    {
+        if (ayuda_)
+            ayuda_(ventana);
+    }
+
     /// Tells a failure. To be called while it is being handled.
     void Informar(const std::exception& fallo);
 
@@ -28,6 +36,7 @@ private:
     void CargarTraducciones();
 
     Informe informe_;
+    std::function<void(const QString&)> ayuda_;
 };
 
 /// Tells a failure through the application, or lets it pass when there is none of ours. To be called while it

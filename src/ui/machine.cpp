@@ -64,6 +64,13 @@ SistemaQt::SistemaQt(const QString& carpeta)
 
 SistemaQt::~SistemaQt() = default;
 
+QString SistemaQt::carpetaInstalacion() const
+{
+    const QString ejecutable = QCoreApplication::applicationDirPath();
+    const QString instalada = QDir::cleanPath(ejecutable + u"/../share/valmerix"_s);
+    return QFileInfo(instalada).isDir() ? instalada : ejecutable;
+}
+
 bool SistemaQt::otraInstancia()
 {
     if (cerrojo_)

@@ -27,6 +27,7 @@ public:
     ~SistemaQt() override;
 
     QString carpetaPrograma() const override { return carpeta_; }
+    QString carpetaInstalacion() const override;
     bool otraInstancia() override;
     bool Arrancar(const QString& orden, const QStringList& argumentos, const QString& carpeta) override;
     void Pitar() override;

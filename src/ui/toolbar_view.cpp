@@ -37,6 +37,9 @@ constexpr OrdenVisible kOrdenes[] = {
     {u"extension", u"Ctrl+M"}, {u"listados", u"Ctrl+L"},       {u"testigos", u"Ctrl+T"},
 };
 
+// Every window answers it itself, with the page that tells of it.
+constexpr QStringView kTeclaAyuda = u"F1";
+
 struct GrupoOrdenes
 {
     QStringView titulo;
@@ -83,6 +86,7 @@ private:
 VistaPaleta::VistaPaleta(Ventana& ventana)
     : VistaVentana(ventana, Marco::Herramienta)
 {
+    setAttribute(Qt::WA_AlwaysShowToolTips); // it never is the active window
     auto* todo = new QVBoxLayout(this);
     todo->setContentsMargins(1, 1, 1, medida::kBorde);
     todo->setSpacing(0);
@@ -143,6 +147,8 @@ QWidget* VistaPaleta::CrearOrden(int indice)
     boton->setProperty("atajo", visible.atajo.toString());
     enlazador().Atar(orden, boton);
     connect(boton, &QToolButton::clicked, &orden, [this, &orden] { Ejecutar(orden); });
+    if (visible.atajo == kTeclaAyuda)
+        return boton;
     auto* atajo = new QShortcut(QKeySequence(visible.atajo.toString()), this);
     atajo->setContext(Qt::ApplicationShortcut);
     connect(atajo, &QShortcut::activated, boton, [boton] { boton->click(); });

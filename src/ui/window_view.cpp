@@ -175,6 +175,11 @@ void VistaVentana::keyPressEvent(QKeyEvent* evento)
         close();
         return;
     }
+    if (evento->key() == Qt::Key_F1) {
+        if (const auto* aplicacion = qobject_cast<AplicacionQt*>(QCoreApplication::instance()))
+            Protegido([&] { aplicacion->PedirAyuda(ventana_->nombre()); });
+        return;
+    }
     auto* boton = qobject_cast<QPushButton*>(focusWidget());
     if (boton && (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)) {
         boton->click();

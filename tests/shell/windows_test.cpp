@@ -67,7 +67,7 @@ TEST(Paleta, TwelveButtonsUnderThreeGroupsOnlyTheLivingOnesEnabled)
         if (boton.Enabled())
             vivos.push_back(i);
     }
-    EXPECT_EQ(vivos, (std::vector<int>{0, 1, 2, 3, 5}));
+    EXPECT_EQ(vivos, (std::vector<int>{0, 1, 2, 3, 5, 8, 9}));
     std::vector<OrdenPaleta> pedidas;
     QObject::connect(&paleta, &Form2::Pedida, [&](OrdenPaleta o) { pedidas.push_back(o); });
     paleta.boton(u"Botonera(5)").Pulsar();
