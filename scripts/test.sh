@@ -10,7 +10,7 @@ cd "$(dirname "$0")/.." || exit 2
 exec </dev/null
 source scripts/test_stages.sh
 
-stages=(layers format dev xvfb asan fuzz tidy bench)
+stages=(layers format dev xvfb asan fuzz tidy bench package)
 [ $# -eq 0 ] || stages=("$@")
 
 scripts/install_packages.sh test || { echo "the packages could not be installed"; echo "0 passed, 1 failed"; exit 1; }

@@ -112,3 +112,10 @@ stage_bench() {
     done < <(find build/release -name 'bench_*' -type f -executable | sort)
     [ $found = 0 ] || python3 scripts/bench_ratios.py "$log"/bench_*.json
 }
+
+# the package as a user gets it: built from the release, checked, installed into a clean root and started there
+stage_package() {
+    build release --target valmerix valmerix-informe valmerix-muestras manual package_papers || return
+    check "package is built" bash -c 'cd build/release && rm -f ./*.deb && cpack -G DEB' || return
+    check "package installs and drafts" scripts/check_package.sh build/release/valmerix_*.deb build/release/bin
+}
