@@ -1,5 +1,6 @@
 #include "ui/help_window.h"
 
+#include "ui/help_find_bar.h"
 #include "ui/help_page.h"
 #include "ui/icons.h"
 #include "ui/theme.h"
@@ -25,6 +26,7 @@ namespace {
 
 constexpr QSize kTamaño(1040, 720);
 constexpr int kAnchoIndice = 290;
+constexpr int kAireDeLinea = 8;
 constexpr QSize kIcono(22, 22);
 constexpr int kEnPagina = Qt::UserRole;    ///< name of the page
 constexpr int kEnAncla = Qt::UserRole + 1; ///< place in it
@@ -35,6 +37,7 @@ QTreeWidgetItem* Rama(const QString& titulo, const QString& pagina, const QStrin
     rama->setData(0, kEnPagina, pagina);
     rama->setData(0, kEnAncla, ancla);
     rama->setToolTip(0, titulo);
+    rama->setSizeHint(0, QSize(0, QFontMetrics(QApplication::font()).height() + kAireDeLinea));
     return rama;
 }
 
@@ -43,6 +46,7 @@ QTreeWidgetItem* Rama(const QString& titulo, const QString& pagina, const QStrin
 VentanaAyuda::VentanaAyuda()
     : QWidget(nullptr, Qt::Window)
     , pagina_(new PaginaAyuda(this))
+    , enPagina_(new BarraEnPagina(*pagina_, this))
 {
     setObjectName(u"Ayuda"_s);
     setWindowTitle(u"Valmerix - Manual"_s);
@@ -52,7 +56,7 @@ VentanaAyuda::VentanaAyuda()
     columna->setContentsMargins(0, 0, 0, 0);
     columna->setSpacing(0);
     columna->addWidget(pagina_, 1);
-    columna->addWidget(CrearBusquedaEnPagina());
+    columna->addWidget(enPagina_);
     auto* partes = new QSplitter(this);
     partes->addWidget(Indice());
     partes->addWidget(derecha);
@@ -105,7 +109,7 @@ QWidget* VentanaAyuda::Barra()
     });
     connect(menor, &QToolButton::clicked, pagina_, [this] { pagina_->zoomOut(); });
     connect(mayor, &QToolButton::clicked, pagina_, [this] { pagina_->zoomIn(); });
-    connect(buscar, &QToolButton::clicked, this, &VentanaAyuda::PedirBusquedaEnPagina);
+    connect(buscar, &QToolButton::clicked, enPagina_, &BarraEnPagina::Pedir);
     for (QWidget* boton : {atras_, adelante_, inicio})
         fila->addWidget(boton);
     fila->addStretch();
@@ -133,6 +137,7 @@ QWidget* VentanaAyuda::Indice()
     contenido_->setAccessibleName(u"Contenido del manual"_s);
     hallazgos_ = new QListWidget(indice);
     hallazgos_->setWordWrap(true);
+    hallazgos_->setSpacing(medida::kEntreLineas / 2);
     hallazgos_->setAccessibleName(u"Resultados de la búsqueda"_s);
     cuenta_ = new QLabel(indice);
     cuenta_->setVisible(false);
@@ -147,30 +152,6 @@ QWidget* VentanaAyuda::Indice()
     connect(contenido_, &QTreeWidget::currentItemChanged, this, &VentanaAyuda::AbrirDelContenido);
     connect(hallazgos_, &QListWidget::currentItemChanged, this, &VentanaAyuda::AbrirHallazgo);
     return indice;
-}
-
-QWidget* VentanaAyuda::CrearBusquedaEnPagina()
-{
-    barraEnPagina_ = new QWidget(this);
-    auto* fila = new QHBoxLayout(barraEnPagina_);
-    fila->setContentsMargins(medida::kBorde, medida::kEntreLineas, medida::kBorde, medida::kEntreLineas);
-    auto* rotulo = new QLabel(u"En esta página:"_s, barraEnPagina_);
-    enPagina_ = new QLineEdit(barraEnPagina_);
-    enPagina_->setAccessibleName(u"Buscar en esta página"_s);
-    rotulo->setBuddy(enPagina_);
-    auto* otra = CrearBoton(u"siguiente"_s, u"Siguiente"_s, QKeySequence(Qt::Key_F3));
-    auto* anterior = CrearBoton(u"anterior"_s, u"Anterior"_s, QKeySequence(Qt::SHIFT | Qt::Key_F3));
-    resultado_ = new QLabel(barraEnPagina_);
-    fila->addWidget(rotulo);
-    fila->addWidget(enPagina_, 1);
-    fila->addWidget(anterior);
-    fila->addWidget(otra);
-    fila->addWidget(resultado_, 1);
-    connect(enPagina_, &QLineEdit::returnPressed, this, [this] { BuscarEnPagina(false); });
-    connect(otra, &QToolButton::clicked, this, [this] { BuscarEnPagina(false); });
-    connect(anterior, &QToolButton::clicked, this, [this] { BuscarEnPagina(true); });
-    barraEnPagina_->hide();
-    return barraEnPagina_;
 }
 
 void VentanaAyuda::CrearAtajos()
@@ -234,7 +215,7 @@ void VentanaAyuda::SeguirPagina(const QUrl& url)
         contenido_->setCurrentItem(aqui);
         contenido_->scrollToItem(aqui);
     }
-    resultado_->clear();
+    enPagina_->Olvidar();
 }
 
 void VentanaAyuda::BuscarEnManual(const QString& texto)
@@ -267,24 +248,6 @@ void VentanaAyuda::AbrirHallazgo()
     pagina_->Buscar(busqueda_->text().trimmed(), false);
 }
 
-void VentanaAyuda::PedirBusquedaEnPagina()
-{
-    barraEnPagina_->show();
-    enPagina_->setFocus(Qt::ShortcutFocusReason);
-    enPagina_->selectAll();
-}
-
-void VentanaAyuda::BuscarEnPagina(bool haciaAtras)
-{
-    if (!barraEnPagina_->isVisible() || enPagina_->text().isEmpty())
-        return PedirBusquedaEnPagina();
-    const int veces = pagina_->Cuenta(enPagina_->text());
-    pagina_->Buscar(enPagina_->text(), haciaAtras);
-    resultado_->setText(veces == 0   ? u"No está en esta página"_s
-                        : veces == 1 ? u"1 vez"_s
-                                     : u"%1 veces"_s.arg(veces));
-}
-
 void VentanaAyuda::keyPressEvent(QKeyEvent* evento)
 {
     const bool flechas = evento->key() == Qt::Key_Down && busqueda_->hasFocus();
@@ -295,8 +258,8 @@ void VentanaAyuda::keyPressEvent(QKeyEvent* evento)
     }
     if (evento->key() != Qt::Key_Escape)
         return QWidget::keyPressEvent(evento);
-    if (barraEnPagina_->isVisible()) {
-        barraEnPagina_->hide();
+    if (enPagina_->isVisible()) {
+        enPagina_->hide();
         pagina_->setFocus();
     } else if (!busqueda_->text().isEmpty()) {
         busqueda_->clear();

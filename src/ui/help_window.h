@@ -14,6 +14,7 @@ class QUrl;
 
 namespace valmerix {
 
+class BarraEnPagina;
 class PaginaAyuda;
 
 /// The help window: contents and search at the left, the page at the right, find in the page below it.
@@ -30,7 +31,7 @@ public:
     QTreeWidget* contenido() const { return contenido_; }
     QListWidget* hallazgos() const { return hallazgos_; }
     QLineEdit* busqueda() const { return busqueda_; }
-    QLineEdit* enPagina() const { return enPagina_; }
+    BarraEnPagina* enPagina() const { return enPagina_; }
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
@@ -38,20 +39,18 @@ protected:
 private:
     QWidget* Barra();
     QWidget* Indice();
-    QWidget* CrearBusquedaEnPagina();
     QToolButton* CrearBoton(const QString& icono, const QString& titulo, const QKeySequence& atajo);
     void CrearAtajos();
     void LlenarContenido();
     void BuscarEnManual(const QString& texto);
-    void BuscarEnPagina(bool haciaAtras);
     void AbrirHallazgo();
     void AbrirDelContenido();
     /// The contents show where she is. The page's own `source` still is the one before when it tells of it.
     void SeguirPagina(const QUrl& url);
-    void PedirBusquedaEnPagina();
 
     std::shared_ptr<const Manual> manual_;
     PaginaAyuda* pagina_;
+    BarraEnPagina* enPagina_;
     QToolButton* atras_ = nullptr;
     QToolButton* adelante_ = nullptr;
     QLineEdit* busqueda_ = nullptr;
@@ -59,9 +58,6 @@ private:
     QTreeWidget* contenido_ = nullptr;
     QListWidget* hallazgos_ = nullptr;
     QLabel* cuenta_ = nullptr;
-    QWidget* barraEnPagina_ = nullptr;
-    QLineEdit* enPagina_ = nullptr;
-    QLabel* resultado_ = nullptr;
 };
 
 } // namespace valmerix

@@ -1,3 +1,4 @@
+#include "photos.h"
 #include "support/fake_ports.h"
 #include "support/fake_screen.h"
 #include "support/manual_sample.h"
@@ -6,6 +7,7 @@
 #include "shell/start_window.h"
 #include "ui/application.h"
 #include "ui/desktop.h"
+#include "ui/help_find_bar.h"
 #include "ui/help_page.h"
 #include "ui/help_port.h"
 #include "ui/help_window.h"
@@ -127,6 +129,7 @@ TEST_F(HelpWindow, ResultsAreWalkedWithTheArrows)
     ASSERT_EQ(ventana.hallazgos()->count(), 2);
     Tecla(Qt::Key_Down);
     EXPECT_EQ(ConFoco(), ventana.hallazgos());
+    Fotografiar(ventana, u"Ayuda-busqueda"_s);
     Tecla(Qt::Key_Down);
     EXPECT_EQ(ventana.pagina()->pagina(), u"02-calculo"_s);
     EXPECT_EQ(ConFoco(), ventana.hallazgos());
@@ -149,7 +152,7 @@ TEST_F(HelpWindow, FindInThePageGoesRoundBothWays)
 {
     ventana.pagina()->Mostrar(u"02-calculo"_s);
     Tecla(Qt::Key_F, Qt::ControlModifier);
-    ASSERT_EQ(ConFoco(), ventana.enPagina());
+    ASSERT_EQ(ConFoco(), ventana.enPagina()->texto());
     QTest::keyClicks(ConFoco(), u"ÁÑO"_s);
     Tecla(Qt::Key_Return);
     const int primero = ventana.pagina()->textCursor().selectionStart();
@@ -216,6 +219,7 @@ TEST(ManualOfTheProgram, IsWholeAndItsPagesShow)
         ventana.pagina()->Mostrar(p.nombre);
         EXPECT_EQ(ventana.pagina()->pagina(), p.nombre);
         EXPECT_TRUE(ventana.pagina()->toPlainText().startsWith(p.titulo)) << p.titulo.toStdString();
+        Fotografiar(ventana, u"Ayuda-"_s + p.nombre);
         // No page needs to be moved sideways, whatever its pictures and tables.
         EXPECT_EQ(ventana.pagina()->horizontalScrollBar()->maximum(), 0) << p.titulo.toStdString();
     }
