@@ -19,6 +19,9 @@ public:
     virtual bool Preguntar(const QString& texto, const QString& titulo, IconoMensaje icono) = 0;
     /// The standard error report: "Continuar" (true, the default) or "Cerrar Valmerix" (false).
     virtual bool InformarFallo(const QString& texto, const QString& detalle) = 0;
+    /// Lets her choose one file that is there. `filtro`: descriptions and patterns by turns, joined by '|',
+    /// the patterns of one description by ';'. Its path; nothing when she leaves without choosing.
+    virtual std::optional<QString> ElegirFichero(const QString& filtro) = 0;
     /// The calendar, opened on `fecha`; nothing when she leaves it without choosing.
     virtual std::optional<QDate> MostrarCalendario(QDate fecha) = 0;
 };
@@ -49,6 +52,9 @@ public:
     /// Lets pending window messages run.
     virtual void DejarPintar() = 0;
     virtual void CopiarAlPortapapeles(const QString& texto) = 0;
+    /// Empties the clipboard and puts the picture of a file there, upright. False when the file holds none
+    /// that can be read; the clipboard then stays as it is.
+    virtual bool CopiarImagenAlPortapapeles(const QString& ruta) = 0;
     /// Ends the process. In the running program it does not return to ordinary work.
     virtual void TerminarProceso(int codigo) = 0;
 };

@@ -19,6 +19,7 @@ public:
     void Mensaje(const QString& texto, const QString& titulo, IconoMensaje icono) override;
     bool Preguntar(const QString& texto, const QString& titulo, IconoMensaje icono) override;
     bool InformarFallo(const QString& texto, const QString& detalle) override;
+    std::optional<QString> ElegirFichero(const QString&) override { return std::nullopt; }
     std::optional<QDate> MostrarCalendario(QDate) override { return std::nullopt; }
 
 private:
@@ -42,6 +43,7 @@ public:
     void PunteroOcupado(bool) override {}
     void DejarPintar() override {}
     void CopiarAlPortapapeles(const QString&) override {}
+    bool CopiarImagenAlPortapapeles(const QString&) override { return false; }
     void TerminarProceso(int) override {}
 
 private:

@@ -2,6 +2,7 @@
 
 #include "ui/caption_bar.h"
 #include "ui/form_builder.h"
+#include "ui/grid_model.h"
 #include "ui/icons.h"
 #include "ui/kind_colours.h"
 #include "ui/page_columns.h"
@@ -114,6 +115,8 @@ void VistaCaso::PonerPaginas()
     for (int i = 0; i < static_cast<int>(std::size(kPaginas)); ++i)
         paginas_->addTab(Pagina(i), kPaginas[i].toString());
     paginas_->setCurrentIndex(formulario_.como<Solapas>(u"SSTab1").Tab());
+    if (auto* imagenes = qobject_cast<TablaRejilla*>(enlazador().de(u"GridImagen")))
+        imagenes->setElegirAlPasar(true);
     layout()->addWidget(paginas_);
 }
 

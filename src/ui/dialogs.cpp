@@ -3,6 +3,7 @@
 #include "ui/calendar_dialog.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -78,6 +79,29 @@ bool DialogosQt::InformarFallo(const QString& texto, const QString& detalle)
     caja.setEscapeButton(seguir);
     caja.exec();
     return caja.clickedButton() != cerrar;
+}
+
+std::optional<QString> DialogosQt::ElegirFichero(const QString& filtro)
+{
+    QFileDialog dialogo(QApplication::activeWindow(), u"Abrir"_s);
+    dialogo.setFileMode(QFileDialog::ExistingFile);
+    // The descriptions name their patterns themselves.
+    dialogo.setOption(QFileDialog::HideNameFilterDetails);
+    dialogo.setNameFilters(FiltrosDeFichero(filtro));
+    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialogo.selectedFiles().constFirst();
+}
+
+QStringList FiltrosDeFichero(const QString& filtro)
+{
+    const QStringList piezas = filtro.split(u'|');
+    QStringList filtros;
+    for (qsizetype i = 0; i + 1 < piezas.size(); i += 2) {
+        QString patrones = piezas[i + 1];
+        filtros << piezas[i] + u" ("_s + patrones.replace(u';', u' ') + u')';
+    }
+    return filtros << u"Todos los ficheros (*)"_s;
 }
 
 std::optional<QDate> DialogosQt::MostrarCalendario(QDate fecha)

@@ -213,6 +213,14 @@ void ConstructorFormulario::LineaSuelta(Filas fila, QGridLayout& rejilla, QWidge
     const int linea = rejilla.rowCount() - (primero.punto >= 0 ? 1 : 0);
     if (auto* etiqueta = qobject_cast<QLabel*>(widget))
         etiqueta->setWordWrap(true);
+    if (fila.size() > 1) {
+        auto* caja = new QHBoxLayout;
+        caja->setSpacing(medida::kEntreCampos);
+        caja->addWidget(widget);
+        Resto(fila.subspan(1), *caja, panel);
+        rejilla.addLayout(caja, linea, kColumnaTitulo, 1, kColumnas - 1);
+        return;
+    }
     const bool aLaDerecha = primero.clase == ClaseControl::Boton || primero.nombre == kCabeceraDeImportes;
     rejilla.addWidget(widget, linea, kColumnaTitulo, 1, kColumnas - 1,
                       aLaDerecha ? Qt::AlignRight : Qt::Alignment());

@@ -125,6 +125,17 @@ void TablaRejilla::MostrarFila()
         setCurrentIndex(indice);
 }
 
+void TablaRejilla::keyPressEvent(QKeyEvent* evento)
+{
+    const int antes = currentIndex().row();
+    const bool espacio = evento->key() == Qt::Key_Space && evento->modifiers() == Qt::NoModifier;
+    if (!espacio)
+        QTableView::keyPressEvent(evento);
+    const int fila = currentIndex().row();
+    if (rejilla_ && fila >= 0 && (espacio || (elegirAlPasar_ && fila != antes)))
+        Protegido([&] { rejilla_->Pulsar(fila + 1); });
+}
+
 void TablaRejilla::keyReleaseEvent(QKeyEvent* evento)
 {
     QTableView::keyReleaseEvent(evento);

@@ -36,7 +36,11 @@ class TablaRejilla : public QTableView
 public:
     TablaRejilla(Rejilla& rejilla, QWidget* padre);
 
+    /// Coming to a row with the arrow keys is a click on it. Otherwise the space bar is.
+    void setElegirAlPasar(bool valor) { elegirAlPasar_ = valor; }
+
 protected:
+    void keyPressEvent(QKeyEvent* evento) override;
     void keyReleaseEvent(QKeyEvent* evento) override;
 
 private:
@@ -45,6 +49,7 @@ private:
 
     QPointer<Rejilla> rejilla_;
     ModeloRejilla* modelo_;
+    bool elegirAlPasar_ = false;
 };
 
 } // namespace valmerix

@@ -3,16 +3,19 @@
 #include "ui/application.h"
 #include "ui/theme.h"
 
-#include <QImageReader>
+#include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
 
 namespace valmerix {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize kTamañoPropio(240, 180);
-constexpr int kLadoMayor = 2000; // pixels: more than any preview shows
+constexpr QSize kCaja(2000, 2000); // pixels: more than any preview shows
+constexpr int kDemora = 300;       // ms until it is told that a picture is being read
 
 } // namespace
 
@@ -20,23 +23,37 @@ CuadroImagen::CuadroImagen(Imagen& imagen, QWidget* padre)
     : QWidget(padre)
     , imagen_(&imagen)
 {
+    demora_.setSingleShot(true);
+    demora_.setInterval(kDemora);
+    connect(&demora_, &QTimer::timeout, this, [this] {
+        setCursor(Qt::BusyCursor);
+        update();
+    });
+    connect(&lector_, &LectorImagenes::Leida, this, &CuadroImagen::Poner);
     connect(&imagen, &Control::PresentacionCambiada, this, &CuadroImagen::Leer);
+    Poner({});
     Leer();
 }
 
 void CuadroImagen::Leer()
 {
-    cuadro_ = {};
-    if (imagen_ && !imagen_->Picture().isEmpty()) {
-        QImageReader lector(imagen_->Picture());
-        lector.setDecideFormatFromContent(true);
-        lector.setAutoTransform(true);
-        // Large photographs are reduced while they are decoded.
-        if (const QSize real = lector.size();
-            real.isValid() && std::max(real.width(), real.height()) > kLadoMayor)
-            lector.setScaledSize(real.scaled(kLadoMayor, kLadoMayor, Qt::KeepAspectRatio));
-        cuadro_ = QPixmap::fromImage(lector.read());
-    }
+    const QString ruta = imagen_ ? imagen_->Picture() : QString();
+    if (ruta == ruta_)
+        return;
+    ruta_ = ruta;
+    Poner({});
+    if (ruta.isEmpty())
+        return lector_.Olvidar();
+    lector_.Pedir(ruta, kCaja);
+    demora_.start();
+}
+
+void CuadroImagen::Poner(const QImage& imagen)
+{
+    demora_.stop();
+    unsetCursor();
+    cuadro_ = QPixmap::fromImage(imagen);
+    setAccessibleDescription(cuadro_.isNull() ? u"Sin imagen"_s : QFileInfo(ruta_).fileName());
     update();
 }
 
@@ -51,19 +68,33 @@ QSize CuadroImagen::sizeHint() const
     return kTamañoPropio;
 }
 
+QRect CuadroImagen::Sitio() const
+{
+    QSize tamaño = cuadro_.size();
+    if (llenar_) {
+        tamaño.scale(size(), Qt::KeepAspectRatioByExpanding);
+    } else if (tamaño.width() > width() || tamaño.height() > height()) {
+        tamaño = tamaño.scaled(size(), Qt::KeepAspectRatio).expandedTo({1, 1});
+    }
+    QRect sitio(QPoint(), tamaño);
+    sitio.moveCenter(rect().center());
+    return sitio;
+}
+
 void CuadroImagen::paintEvent(QPaintEvent* /*evento*/)
 {
     QPainter pintor(this);
-    if (cuadro_.isNull()) {
-        pintor.setPen(QPen(ColorLinea(palette()), 1, Qt::DashLine));
-        pintor.drawRect(rect().adjusted(0, 0, -1, -1));
+    if (!cuadro_.isNull()) {
+        pintor.setRenderHint(QPainter::SmoothPixmapTransform);
+        pintor.drawPixmap(Sitio(), cuadro_);
         return;
     }
-    pintor.setRenderHint(QPainter::SmoothPixmapTransform);
-    QRect sitio(QPoint(), cuadro_.size().scaled(size(), llenar_ ? Qt::KeepAspectRatioByExpanding
-                                                                : Qt::KeepAspectRatio));
-    sitio.moveCenter(rect().center());
-    pintor.drawPixmap(sitio, cuadro_);
+    pintor.setPen(QPen(ColorLinea(palette()), 1, Qt::DashLine));
+    pintor.drawRect(rect().adjusted(0, 0, -1, -1));
+    if (lector_.leyendo() && !demora_.isActive()) {
+        pintor.setPen(ColorSecundario(palette()));
+        pintor.drawText(rect(), Qt::AlignCenter, u"Leyendo la imagen…"_s);
+    }
 }
 
 void CuadroImagen::mouseReleaseEvent(QMouseEvent* evento)

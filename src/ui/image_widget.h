@@ -1,15 +1,17 @@
 #pragma once
 
 #include "controls/control.h"
+#include "ui/picture_loader.h"
 
 #include <QPixmap>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 namespace valmerix {
 
-/// A picture fitted into its place, upright, with its own proportions. A file that cannot be read shows
-/// nothing.
+/// A picture fitted into its place, upright, with its own proportions and never larger than it is. It is read
+/// off the window's thread. A file that cannot be read shows nothing.
 class CuadroImagen : public QWidget
 {
     Q_OBJECT
@@ -27,8 +29,13 @@ protected:
 
 private:
     void Leer();
+    void Poner(const QImage& imagen);
+    QRect Sitio() const;
 
     QPointer<Imagen> imagen_;
+    QString ruta_; ///< of the picture shown or being read
+    LectorImagenes lector_;
+    QTimer demora_;
     QPixmap cuadro_;
     bool llenar_ = false;
 };

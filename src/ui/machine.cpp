@@ -1,5 +1,7 @@
 #include "ui/machine.h"
 
+#include "ui/picture_loader.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QCryptographicHash>
@@ -14,6 +16,8 @@ namespace valmerix {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr QSize kCajaPortapapeles(4000, 4000); // pixels; enough for a whole page of another program
 
 QString CarpetaSegunElPuesto()
 {
@@ -112,6 +116,17 @@ void SistemaQt::DejarPintar()
 void SistemaQt::CopiarAlPortapapeles(const QString& texto)
 {
     QGuiApplication::clipboard()->setText(texto);
+}
+
+bool SistemaQt::CopiarImagenAlPortapapeles(const QString& ruta)
+{
+    const QImage imagen = LeerImagenEsperando(ruta, kCajaPortapapeles);
+    if (imagen.isNull())
+        return false;
+    QClipboard& portapapeles = *QGuiApplication::clipboard();
+    portapapeles.clear();
+    portapapeles.setImage(imagen);
+    return true;
 }
 
 void SistemaQt::TerminarProceso(int codigo)

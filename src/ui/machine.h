@@ -34,6 +34,7 @@ public:
     void PunteroOcupado(bool ocupado) override;
     void DejarPintar() override;
     void CopiarAlPortapapeles(const QString& texto) override;
+    bool CopiarImagenAlPortapapeles(const QString& ruta) override;
     [[noreturn]] void TerminarProceso(int codigo) override;
 
 private:

@@ -31,7 +31,11 @@ QImage Opaca(const QImage& imagen)
 
 QImage LeerImagen(const QString& ruta, QSize caja)
 {
-    QImageReader::setAllocationLimit(kMemoriaMayor);
+    // Once: pictures are read in several threads.
+    [[maybe_unused]] static const bool limitada = [] {
+        QImageReader::setAllocationLimit(kMemoriaMayor);
+        return true;
+    }();
     QImageReader lector(ruta);
     lector.setDecideFormatFromContent(true);
     lector.setAutoTransform(true);

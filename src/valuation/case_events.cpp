@@ -114,6 +114,10 @@ std::span<const ReglaEvento> TablaEventos::reglas()
         {u"SSCommand4", Evento::Click, [](F& f) { f.PasarPagina(-1); }},
         {u"SSCommand5", Evento::Click, [](F& f) { f.PasarPagina(1); }},
         {u"SSCommand6", Evento::Click, [](F& f) { f.servicios_.entorno.MostrarProblema(); }},
+        {u"btnBuscaImagen", Evento::Click, [](F& f) { f.AlBuscarImagen(); }},
+        {u"btnActualizarLista", Evento::Click, [](F& f) { f.ActualizarGrid(u"Editar"); }},
+        {u"SSCommand8", Evento::Click, [](F& f) { f.ActualizarGrid(u"Borrar"); }},
+        {u"SSCommand9", Evento::Click, [](F& f) { f.AlCopiarImagen(); }},
         {u"GridImagen", Evento::Click, [](F& f) { f.AlElegirImagen(); }},
         {u"txtRutaImagen", Evento::Change, [](F& f) { f.AlCambiarRutaImagen(); }},
     };

@@ -77,6 +77,11 @@ public:
     /// Lets her choose the date of a field; false when she leaves it as it is.
     bool ElegirFecha(CampoTexto& campo);
 
+    /// "Editar" puts the picture named by `txtNombreImagen` and `txtRutaImagen` on the list, over the first
+    /// one of that name when there is one; "Borrar" takes it off. Nothing happens while either field is
+    /// empty.
+    void ActualizarGrid(QStringView Accion);
+
     /// The section profile as it is stored: one digit a box, sections first.
     QString perfil() const;
     void PonerPerfil(const QString& perfil);
@@ -116,6 +121,8 @@ private:
     void AlPulsarAnexo(const Anexo& anexo);
     void AlPulsarMinimizar();
     void AlPulsarPaleta();
+    void AlBuscarImagen();
+    void AlCopiarImagen();
     void AlElegirImagen();
     void AlCambiarRutaImagen();
     void PasarPagina(int paso);

@@ -3,8 +3,6 @@
 #include "common/number_reading.h"
 #include "valuation/case_form.h"
 
-#include <QFileInfo>
-
 namespace valmerix {
 
 using namespace Qt::StringLiterals;
@@ -126,23 +124,6 @@ void Formulario::PasarPagina(int paso)
 {
     auto& paginas = como<Solapas>(u"SSTab1");
     paginas.setTab((paginas.Tab() + paso + paginas.paginas()) % paginas.paginas());
-}
-
-void Formulario::AlElegirImagen()
-{
-    const Rejilla& imagenes = rejilla(u"GridImagen");
-    const int fila = imagenes.Row();
-    if (fila < 1)
-        return;
-    campo(u"txtNombreImagen").setText(imagenes.TextMatrix(fila, 1));
-    campo(u"txtRutaImagen").setText(imagenes.TextMatrix(fila, 0));
-}
-
-// A file that has been moved shows nothing.
-void Formulario::AlCambiarRutaImagen()
-{
-    const QString& ruta = texto(u"txtRutaImagen");
-    como<Imagen>(u"Imagen").setPicture(QFileInfo(ruta).isFile() ? ruta : QString());
 }
 
 } // namespace valmerix

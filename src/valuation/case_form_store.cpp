@@ -150,23 +150,4 @@ void Formulario::CargaGridTestigosAsociados()
     rejilla.setRedraw(true);
 }
 
-void Formulario::CargaGridImagenesAsociadas()
-{
-    Rejilla& rejilla = Ventana::rejilla(u"GridImagen");
-    rejilla.setColumnas({{}, u"Nombre"_s}, {0, 2500});
-    const qint32 numero = servicios_.compartido.NumeroTasacionActual;
-    const QString& tasador = texto(u"cboNombreTasador");
-    if (numero != 0 && !tasador.isEmpty()) {
-        clsConsulta consulta(servicios_.compartido);
-        consulta.AbrirBaseDatosEmpresa(servicios_.compartido.RutaBaseDatos);
-        AñadirFilas(rejilla,
-                    consulta.Instantanea2(
-                        kEmpresa, u"SELECT Ruta, Nombre FROM ImagenesAsociadas WHERE NombreTasador = '"_s +
-                                      tasador + u"' AND NumeroTasacion = "_s + QString::number(numero)));
-    }
-    como<Imagen>(u"Imagen").setPicture({});
-    campo(u"txtRutaImagen").setText({});
-    campo(u"txtNombreImagen").setText({});
-}
-
 } // namespace valmerix

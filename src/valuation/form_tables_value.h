@@ -83,12 +83,16 @@ inline constexpr ControlForma kTestigosElegidos[] = {
 };
 
 inline constexpr ControlForma kImagenes[] = {
-    Rotulo(u"AvisoImagenes",
-           u"Añadir y quitar imágenes llegará con una próxima versión; aquí se ven las que ya "
-           u"están asociadas al expediente."),
     Ayuda(u"Imágenes del expediente", Fila(ClaseControl::Rejilla, u"GridImagen", {})),
-    Resultado(u"txtNombreImagen", u"Nombre:"),
-    Resultado(u"txtRutaImagen", u"Fichero:"),
+    Ayuda(u"Con este nombre sale la imagen en la lista y en el informe",
+          Texto(u"txtNombreImagen", u"Nombre:")),
+    Ayuda(u"Trayectoria completa del fichero de la imagen", Texto(u"txtRutaImagen", u"Fichero:")),
+    Junto(Ayuda(u"Buscar el fichero de una imagen", Pulsador(u"btnBuscaImagen", u"Buscar..."))),
+    Ayuda(u"Añadir la imagen a la lista, o cambiar la que ya tiene ese nombre",
+          Pulsador(u"btnActualizarLista", u"Actualizar Lista")),
+    Junto(Ayuda(u"Quitar de la lista la imagen de ese nombre; su fichero no se borra",
+                Pulsador(u"SSCommand8", u"Borrar"))),
+    Junto(Ayuda(u"Copiar la imagen al portapapeles", Pulsador(u"SSCommand9", u"Copiar"))),
     Ayuda(u"Vista previa", Fila(ClaseControl::Imagen, u"Imagen", {})),
 };
 

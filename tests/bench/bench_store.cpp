@@ -125,6 +125,7 @@ public:
         return true;
     }
     bool InformarFallo(const QString& /*t*/, const QString& /*d*/) override { return true; }
+    std::optional<QString> ElegirFichero(const QString& /*filtro*/) override { return {}; }
     std::optional<QDate> MostrarCalendario(QDate /*fecha*/) override { return {}; }
 };
 

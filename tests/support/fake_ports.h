@@ -30,6 +30,8 @@ public:
     std::deque<bool> respuestas;
     std::deque<bool> respuestasFallo;
     std::deque<std::optional<QDate>> fechas;
+    QStringList filtros; ///< of the file choices asked for
+    std::deque<std::optional<QString>> ficheros;
 
     void Mensaje(const QString& texto, const QString& titulo, IconoMensaje icono) override
     {
@@ -44,6 +46,11 @@ public:
     {
         fallos.push_back({texto, detalle, IconoMensaje::Critico});
         return Siguiente(respuestasFallo, true, texto);
+    }
+    std::optional<QString> ElegirFichero(const QString& filtro) override
+    {
+        filtros.push_back(filtro);
+        return Siguiente(ficheros, std::optional<QString>(), filtro);
     }
     std::optional<QDate> MostrarCalendario(QDate fecha) override
     {
@@ -89,6 +96,8 @@ public:
     std::vector<bool> punteros;
     int pintados = 0;
     QStringList portapapeles;
+    QStringList imagenesCopiadas; ///< paths
+    bool imagenLegible = true;
     std::vector<Arranque> arranques;
     std::vector<int> finales;
 
@@ -103,6 +112,12 @@ public:
     void PunteroOcupado(bool ocupado) override { punteros.push_back(ocupado); }
     void DejarPintar() override { ++pintados; }
     void CopiarAlPortapapeles(const QString& texto) override { portapapeles.append(texto); }
+    bool CopiarImagenAlPortapapeles(const QString& ruta) override
+    {
+        if (imagenLegible)
+            imagenesCopiadas.append(ruta);
+        return imagenLegible;
+    }
     void TerminarProceso(int codigo) override { finales.push_back(codigo); }
 };
 

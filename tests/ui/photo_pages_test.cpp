@@ -1,10 +1,9 @@
 #include "ui/pdf_file.h"
 #include "ui/pdf_tools.h"
+#include "ui/picture_files.h"
 #include "ui/picture_reading.h"
 #include "ui/report_pages.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace valmerix {
@@ -15,46 +14,20 @@ namespace {
 
 constexpr QSize kCaja(600, 400);
 
-QImage Mitades(QSize tamaño)
-{
-    QImage imagen(tamaño, QImage::Format_RGB32);
-    imagen.fill(Qt::red);
-    QPainter(&imagen).fillRect(0, 0, tamaño.width() / 2, tamaño.height(), Qt::blue);
-    return imagen;
-}
-
-// "Turn a quarter to the right", as cameras held upright write it.
-QByteArray ConGiro(const QByteArray& jpeg)
-{
-    const QByteArray tiff("II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0\x06\0\0\0\0\0\0\0", 26);
-    const QByteArray exif = QByteArray("Exif\0\0", 6) + tiff;
-    const auto largo = static_cast<char>(exif.size() + 2);
-    return jpeg.left(2) + QByteArray("\xFF\xE1\0", 3) + largo + exif + jpeg.mid(2);
-}
-
 class PhotoPages : public testing::Test
 {
 protected:
-    QTemporaryDir carpeta;
+    CarpetaDeImagenes carpeta;
 
     QString Guardar(const QString& nombre, const QImage& imagen, const char* formato)
     {
-        EXPECT_TRUE(imagen.save(carpeta.filePath(nombre), formato));
-        return carpeta.filePath(nombre);
+        return carpeta.Guardar(nombre, imagen, formato);
     }
     QString Escribir(const QString& nombre, const QByteArray& datos)
     {
-        QFile fichero(carpeta.filePath(nombre));
-        EXPECT_TRUE(fichero.open(QIODevice::WriteOnly));
-        fichero.write(datos);
-        return fichero.fileName();
+        return carpeta.Escribir(nombre, datos);
     }
-    QByteArray Leer(const QString& ruta)
-    {
-        QFile fichero(ruta);
-        EXPECT_TRUE(fichero.open(QIODevice::ReadOnly));
-        return fichero.readAll();
-    }
+    static QByteArray Leer(const QString& ruta) { return CarpetaDeImagenes::Leer(ruta); }
     PaginasInforme ConFotos(const std::vector<FotografiaImpresa>& fotos)
     {
         DocumentoImpreso documento;
@@ -110,8 +83,8 @@ TEST_F(PhotoPages, FilesThatAreNoPicturesAreNull)
 {
     EXPECT_TRUE(LeerImagen(Escribir(u"vacio.jpg"_s, {}), kCaja).isNull());
     EXPECT_TRUE(LeerImagen(Escribir(u"texto.jpg"_s, "esto no es una foto"), kCaja).isNull());
-    EXPECT_TRUE(LeerImagen(carpeta.filePath(u"no_hay.jpg"_s), kCaja).isNull());
-    EXPECT_TRUE(LeerImagen(carpeta.path(), kCaja).isNull());
+    EXPECT_TRUE(LeerImagen(carpeta.ruta(u"no_hay.jpg"_s), kCaja).isNull());
+    EXPECT_TRUE(LeerImagen(carpeta.ruta({}), kCaja).isNull());
     EXPECT_TRUE(LeerImagen({}, kCaja).isNull());
 }
 
@@ -125,7 +98,7 @@ TEST_F(PhotoPages, TruncatedFilesDoNoHarm)
         fotos.push_back({Escribir(u"%1.png"_s.arg(corte), png.left(corte)), u"png"_s});
     }
     PaginasInforme paginas = ConFotos(fotos);
-    const QString pdf = carpeta.filePath(u"salida.pdf"_s);
+    const QString pdf = carpeta.ruta(u"salida.pdf"_s);
     EXPECT_EQ(GuardarPdf(paginas, pdf).fin, FinPdf::Guardado);
     EXPECT_EQ(PaginasPdf(pdf), 5);
 }
@@ -136,7 +109,7 @@ TEST_F(PhotoPages, TwoPhotographsStandOnAPageBehindTheText)
     PaginasInforme paginas =
         ConFotos({{ruta, u"Fachada principal"_s}, {ruta, u"Salón"_s}, {ruta, u"Cocina"_s}});
     ASSERT_EQ(paginas.paginas(), 3);
-    const QString pdf = carpeta.filePath(u"salida.pdf"_s);
+    const QString pdf = carpeta.ruta(u"salida.pdf"_s);
     ASSERT_EQ(GuardarPdf(paginas, pdf).fin, FinPdf::Guardado);
     EXPECT_EQ(TextoPdf(pdf, 1), u"texto Página 1 de 3"_s);
     EXPECT_EQ(TextoPdf(pdf, 2), u"Fachada principal Salón Página 2 de 3"_s);
@@ -148,9 +121,9 @@ TEST_F(PhotoPages, TwoPhotographsStandOnAPageBehindTheText)
 TEST_F(PhotoPages, AMissingFileIsAnEmptyFrameWithItsCaption)
 {
     PaginasInforme paginas =
-        ConFotos({{carpeta.filePath(u"movida.jpg"_s), u"Ya no está"_s}, {{}, u"Sin ruta"_s}});
+        ConFotos({{carpeta.ruta(u"movida.jpg"_s), u"Ya no está"_s}, {{}, u"Sin ruta"_s}});
     ASSERT_EQ(paginas.paginas(), 2);
-    const QString pdf = carpeta.filePath(u"salida.pdf"_s);
+    const QString pdf = carpeta.ruta(u"salida.pdf"_s);
     ASSERT_EQ(GuardarPdf(paginas, pdf).fin, FinPdf::Guardado);
     EXPECT_EQ(TextoPdf(pdf, 2), u"Ya no está Sin ruta Página 2 de 2"_s);
     EXPECT_TRUE(paginas.preparada(1));
@@ -159,7 +132,7 @@ TEST_F(PhotoPages, AMissingFileIsAnEmptyFrameWithItsCaption)
 TEST_F(PhotoPages, ALongCaptionIsWrappedAndEndsInDots)
 {
     PaginasInforme paginas = ConFotos({{{}, u"Detalle de la cornisa "_s.repeated(60)}});
-    const QString pdf = carpeta.filePath(u"salida.pdf"_s);
+    const QString pdf = carpeta.ruta(u"salida.pdf"_s);
     ASSERT_EQ(GuardarPdf(paginas, pdf).fin, FinPdf::Guardado);
     EXPECT_TRUE(TextoPdf(pdf, 2).contains(u"…"_s));
 }
@@ -171,7 +144,7 @@ TEST_F(PhotoPages, TheLogoStandsInTheLetterheadAndADamagedOneDoesNot)
     documento.membrete = MembreteImpreso{};
     documento.membrete->Logo = Guardar(u"Logo.bmp"_s, Mitades({300, 100}), "BMP");
     documento.membrete->lblNombreEmpresa = u"Tasaciones"_s;
-    const QString pdf = carpeta.filePath(u"salida.pdf"_s);
+    const QString pdf = carpeta.ruta(u"salida.pdf"_s);
     PaginasInforme con(documento);
     ASSERT_EQ(GuardarPdf(con, pdf).fin, FinPdf::Guardado);
     EXPECT_TRUE(Poppler(u"pdfimages"_s, {u"-list"_s, pdf}).contains(" image "));
