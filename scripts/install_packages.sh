@@ -3,8 +3,9 @@
 # Does nothing when all of them are there.
 set -euo pipefail
 
-run=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-translations-l10n
-     libsqlitecpp-dev libsqlite3-dev libmd4c-dev libmd4c-html0-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core
+run=(g++ cmake ninja-build ccache pkgconf qt6-base-dev qt6-svg-dev qt6-multimedia-dev qt6-qpa-plugins
+     qt6-translations-l10n libsane-dev libsane1 libsqlitecpp-dev libsqlite3-dev libmd4c-dev libmd4c-html0-dev
+     libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core
      fonts-liberation sqlite3)
 test=(appstream clang clang-format clang-tidy libclang-rt-14-dev desktop-file-utils dpkg-dev fakeroot git groff lintian lld
       man-db poppler-utils procps python3 strace xauth xvfb libreoffice-writer)

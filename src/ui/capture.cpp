@@ -1,8 +1,12 @@
 #include "ui/capture.h"
 
+#include "ui/camera_source.h"
+#include "ui/capture_window.h"
+#include "ui/picture_loader.h"
+#include "ui/scanner_source.h"
+
 #include <QApplication>
 #include <QFileDialog>
-#include <QImageReader>
 #include <QMessageBox>
 
 namespace valmerix {
@@ -11,45 +15,75 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kMayorLado = 4000; // pixels; more than any letterhead prints
+constexpr QSize kCaja(4000, 4000); // pixels; more than any letterhead prints
 
 void Avisar(const QString& texto)
 {
     QMessageBox::information(QApplication::activeWindow(), u"Aviso"_s, texto);
 }
 
-QImage LeerImagen(const QString& ruta)
+} // namespace
+
+CapturaQt::CapturaQt()
+    : CapturaQt(CrearFuenteCamara, CrearFuenteEscaner)
 {
-    QImageReader lector(ruta);
-    lector.setDecideFormatFromContent(true);
-    lector.setAutoTransform(true);
-    const QSize lado = lector.size();
-    if (lado.width() > kMayorLado || lado.height() > kMayorLado)
-        lector.setScaledSize(lado.scaled(kMayorLado, kMayorLado, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    return lector.read();
 }
 
-} // namespace
+CapturaQt::CapturaQt(Fabrica camara, Fabrica escaner)
+    : camara_(std::move(camara))
+    , escaner_(std::move(escaner))
+{
+}
 
 std::optional<QString> CapturaQt::LoadCapture(FuenteImagen fuente, const QString& carpetaPrograma)
 {
-    if (fuente != FuenteImagen::Fichero) {
-        Avisar(fuente == FuenteImagen::Camara ? u"No se ha encontrado ninguna cámara."_s
-                                              : u"No se ha encontrado ningún escáner."_s);
-        return std::nullopt;
+    switch (fuente) {
+    case FuenteImagen::Fichero:
+        return Guardar(DeFichero(carpetaPrograma));
+    case FuenteImagen::Camara:
+        return Guardar(DeAparato(camara_, kTextosCamara));
+    case FuenteImagen::Escaner:
+        return Guardar(DeAparato(escaner_, kTextosEscaner));
     }
+    return std::nullopt;
+}
+
+QImage CapturaQt::DeFichero(const QString& carpetaPrograma)
+{
     const QString ruta =
         QFileDialog::getOpenFileName(QApplication::activeWindow(), u"Cargar Imagen"_s, carpetaPrograma,
                                      u"Imágenes (*.bmp *.gif *.jpg *.jpeg *.png);;Todos los ficheros (*)"_s);
     if (ruta.isEmpty())
-        return std::nullopt;
-    const QImage imagen = LeerImagen(ruta);
-    const QString destino = carpeta_.filePath(u"captura%1.bmp"_s.arg(++numero_));
-    if (imagen.isNull() || !imagen.save(destino, "BMP")) {
+        return {};
+    QImage imagen = LeerImagenEsperando(ruta, kCaja);
+    if (imagen.isNull())
         Avisar(u"No se puede leer la imagen «%1»."_s.arg(ruta));
+    return imagen;
+}
+
+QImage CapturaQt::DeAparato(const Fabrica& fabrica, const TextosCaptura& textos)
+{
+    const std::unique_ptr<FuenteCaptura> fuente = fabrica();
+    VentanaCaptura ventana(*fuente, textos, QApplication::activeWindow());
+    if (ventana.exec() != QDialog::Accepted)
+        return {};
+    const QImage& imagen = ventana.imagen();
+    return imagen.width() > kCaja.width() || imagen.height() > kCaja.height()
+               ? imagen.scaled(kCaja, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+               : imagen;
+}
+
+std::optional<QString> CapturaQt::Guardar(const QImage& imagen)
+{
+    if (imagen.isNull())
         return std::nullopt;
-    }
-    return destino;
+    if (!carpeta_)
+        carpeta_ = std::make_unique<QTemporaryDir>();
+    const QString destino = carpeta_->filePath(u"captura%1.bmp"_s.arg(++numero_));
+    if (imagen.save(destino, "BMP"))
+        return destino;
+    Avisar(u"No se puede guardar la imagen en «%1»."_s.arg(carpeta_->path()));
+    return std::nullopt;
 }
 
 } // namespace valmerix

@@ -1,20 +1,36 @@
 #pragma once
 
 #include "common/ports.h"
+#include "ui/capture_source.h"
 
 #include <QTemporaryDir>
+#include <functional>
+#include <memory>
 
 namespace valmerix {
 
-/// Pictures from a file that she chooses, read by content and handed on as a bitmap in a folder of the
-/// process. Camera and scanner are told to be missing.
+struct TextosCaptura;
+
+/// Pictures from a file that she chooses, from a camera or a scanner, handed on as a bitmap in a folder of
+/// the process. Cameras and scanners are looked for when they are asked for, not before.
 class CapturaQt : public CapturaImagenes
 {
 public:
+    using Fabrica = std::function<std::unique_ptr<FuenteCaptura>()>;
+
+    CapturaQt();
+    CapturaQt(Fabrica camara, Fabrica escaner);
+
     std::optional<QString> LoadCapture(FuenteImagen fuente, const QString& carpetaPrograma) override;
 
 private:
-    QTemporaryDir carpeta_;
+    static QImage DeFichero(const QString& carpetaPrograma);
+    static QImage DeAparato(const Fabrica& fabrica, const TextosCaptura& textos);
+    std::optional<QString> Guardar(const QImage& imagen);
+
+    Fabrica camara_;
+    Fabrica escaner_;
+    std::unique_ptr<QTemporaryDir> carpeta_;
     int numero_ = 0;
 };
 
