@@ -19,6 +19,7 @@ namespace {
 
 constexpr QSize kLienzo(480, 320);
 constexpr int kMargenTexto = 24;
+constexpr int kAltoAvance = 8;
 constexpr int kFinDeEscala = 1000; // steps of the progress bar
 
 QPushButton* NuevoBoton(const QString& titulo, QWidget* padre)
@@ -56,9 +57,11 @@ void LienzoCaptura::MostrarTexto(const QString& texto)
     imagen_ = {};
     texto_ = texto;
     setAccessibleDescription(texto);
+    update();
+    if (!isVisible())
+        return;
     QAccessibleEvent aviso(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&aviso);
-    update();
 }
 
 void LienzoCaptura::paintEvent(QPaintEvent* /*evento*/)
@@ -97,10 +100,10 @@ VentanaCaptura::VentanaCaptura(FuenteCaptura& fuente, const TextosCaptura& texto
     etiqueta_->setBuddy(aparatos_);
     aparatos_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     avance_->setTextVisible(false);
+    avance_->setFixedHeight(kAltoAvance);
     Disponer();
     Conectar();
-    MostrarAparatos({});
-    lienzo_->MostrarTexto({});
+    Vaciar();
 }
 
 void VentanaCaptura::Disponer()
@@ -149,7 +152,6 @@ void VentanaCaptura::showEvent(QShowEvent* evento)
     if (buscado_)
         return;
     buscado_ = true;
-    MostrarAparatos({});
     Ocupar(textos_.buscando.toString());
     // The window stands before a search that may take its time.
     QTimer::singleShot(0, this, &VentanaCaptura::Buscar);
@@ -157,23 +159,26 @@ void VentanaCaptura::showEvent(QShowEvent* evento)
 
 void VentanaCaptura::Buscar()
 {
-    MostrarAparatos({});
+    Vaciar();
     Ocupar(textos_.buscando.toString());
     buscar_->setEnabled(false);
     fuente_.Buscar();
 }
 
-void VentanaCaptura::MostrarAparatos(const QStringList& titulos)
+void VentanaCaptura::Vaciar()
 {
-    Desocupar();
+    aparatos_->clear();
     capturada_ = {};
     capturar_->setText(textos_.capturar.toString());
-    aparatos_->clear();
-    aparatos_->addItems(titulos);
-    aparatos_->setEnabled(titulos.size() > 1);
-    buscar_->setEnabled(true);
-    capturar_->setEnabled(!titulos.isEmpty());
     aceptar_->setEnabled(false);
+    Desocupar();
+}
+
+void VentanaCaptura::MostrarAparatos(const QStringList& titulos)
+{
+    Vaciar();
+    aparatos_->addItems(titulos);
+    Desocupar();
     if (titulos.isEmpty()) {
         lienzo_->MostrarTexto(textos_.ninguno.toString());
         return;

@@ -87,6 +87,7 @@ private:
     void Disponer();
     void Conectar();
     void Buscar();
+    void Vaciar();
     void MostrarAparatos(const QStringList& titulos);
     void Preparar();
     void Capturar();

@@ -88,7 +88,7 @@ private:
 
 void AvisarAvance(const CuadroEscaneado& cuadro, const SeguimientoEscaneo& seguimiento)
 {
-    const double total = double(cuadro.medidas.lines) * cuadro.medidas.bytes_per_line;
+    const double total = static_cast<double>(cuadro.medidas.lines) * cuadro.medidas.bytes_per_line;
     seguimiento.avance(total > 0 ? std::min(1.0, static_cast<double>(cuadro.datos.size()) / total) : -1);
 }
 

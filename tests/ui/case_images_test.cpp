@@ -11,6 +11,8 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -18,12 +20,29 @@
 #include <QTest>
 #include <QThreadPool>
 #include <QTimer>
+#include <algorithm>
+#include <gtest/gtest.h>
 
 namespace valmerix {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// KB of memory that the process has had at once, since the last time that it was asked to begin anew.
+qint64 MemoriaMayor(bool deNuevo = true)
+{
+    if (QFile marcas(u"/proc/self/clear_refs"_s); deNuevo && marcas.open(QIODevice::WriteOnly))
+        marcas.write("5");
+    QFile estado(u"/proc/self/status"_s);
+    EXPECT_TRUE(estado.open(QIODevice::ReadOnly));
+    for (const QByteArray& linea : estado.readAll().split('\n')) {
+        if (linea.startsWith("VmHWM:"))
+            return linea.simplified().split(' ')[1].toLongLong();
+    }
+    ADD_FAILURE() << "no measure of the memory";
+    return 0;
+}
 
 /// The page of the pictures of a flat, in front.
 class CaseImages : public testing::Test
@@ -217,6 +236,27 @@ TEST_F(CaseImages, OnlyTheLastPictureAskedForIsShown)
     piso.campo(u"txtRutaImagen").setText(grande);
     piso.campo(u"txtRutaImagen").setText({});
     EXPECT_TRUE(SigueSinImagen());
+}
+
+TEST_F(CaseImages, AFiftyMegapixelPhotographNeitherHoldsTheWindowNorFillsTheMemory)
+{
+    {
+        QImage grande(8700, 5800, QImage::Format_RGB888);
+        grande.fill(Qt::darkGreen);
+        carpeta.Guardar(u"grande.jpg"_s, grande, "JPEG");
+    }
+    const qint64 antes = MemoriaMayor();
+    QElapsedTimer reloj;
+    qint64 hueco = 0;
+    QTimer pulso;
+    QObject::connect(&pulso, &QTimer::timeout, &pulso, [&] { hueco = std::max(hueco, reloj.restart()); });
+    reloj.start();
+    pulso.start(1);
+    piso.campo(u"txtRutaImagen").setText(carpeta.ruta(u"grande.jpg"_s));
+    ASSERT_TRUE(EsperarImagen());
+    RecordProperty("longest gap in ms", static_cast<int>(hueco));
+    EXPECT_LT(hueco, 200) << "the window stood still";
+    EXPECT_LT(MemoriaMayor(false) - antes, qint64{64} << 10) << "KB";
 }
 
 TEST_F(CaseImages, ClosingTheWindowWhileAPictureIsReadDoesNoHarm)
