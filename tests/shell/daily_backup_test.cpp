@@ -65,7 +65,9 @@ TEST_F(CopiaDiariaTest, AFailedCopyIsToldOnceAndTheWriteGoesOn)
     base.Ejecutar(u"UPDATE Empresa SET Nombre = 'Dos'"_s);
     ASSERT_EQ(entorno.dialogos.mensajes.size(), 1u);
     EXPECT_TRUE(entorno.dialogos.mensajes[0].texto.startsWith(
-        u"No se ha podido hacer la copia de seguridad de hoy."_s));
+        u"No se ha podido hacer la copia de seguridad de hoy. Se sigue trabajando sin ella.\n\n"_s));
+    EXPECT_EQ(entorno.dialogos.mensajes[0].titulo, u"Aviso"_s);
+    EXPECT_EQ(entorno.dialogos.mensajes[0].icono, IconoMensaje::Aviso);
     EXPECT_EQ(EmpresaEn(base.ruta()), u"Dos"_s);
 }
 

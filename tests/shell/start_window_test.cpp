@@ -91,12 +91,18 @@ TEST_F(InicioTest, TheQueryOfEachFolderIsTheSystemsOwn)
     QStringList textos;
     entorno.compartido.alEjecutarSQL = [&](QStringView, QStringView sql) { textos << sql.toString(); };
     inicio.Load();
-    ASSERT_EQ(textos.size(), 7);
-    EXPECT_EQ(textos[0], u"SELECT NombreTasador, NumeroTasacion, Tipo, Situacion, Municipio FROM Viviendas "
-                         u"WHERE Tipo = 'P' ORDER BY NombreTasador, NumeroTasacion"_s);
-    EXPECT_EQ(textos[5], u"SELECT NombreTasador, NumeroTasacion, Tipo, Situacion, Municipio FROM Terrenos "
-                         u"WHERE Tipo = 'T' ORDER BY NombreTasador, NumeroTasacion"_s);
-    EXPECT_EQ(textos[6], u"SELECT MonedaDecimales FROM Opciones"_s);
+    QStringList esperado;
+    for (const auto& [tabla, letra] : {std::pair{u"Viviendas"_s, u"P"_s},
+                                       {u"Viviendas"_s, u"A"_s},
+                                       {u"Viviendas"_s, u"C"_s},
+                                       {u"Locales"_s, u"L"_s},
+                                       {u"Naves"_s, u"N"_s},
+                                       {u"Terrenos"_s, u"T"_s}}) {
+        esperado << u"SELECT NombreTasador, NumeroTasacion, Tipo, Situacion, Municipio FROM %1 WHERE Tipo = "
+                    u"'%2' ORDER BY NombreTasador, NumeroTasacion"_s.arg(tabla, letra);
+    }
+    esperado << u"SELECT MonedaDecimales FROM Opciones"_s;
+    EXPECT_EQ(textos, esperado);
 }
 
 TEST_F(InicioTest, TheStartFixesSeparatorPatternAndPlace)
