@@ -125,14 +125,36 @@ TEST(Anexos, AValueTicksItsBoxAndAnEmptyFieldClearsIt)
     }
 }
 
-TEST(Anexos, AClearedBoxBesideAValueIsTickedAgain)
+TEST(Anexos, AClearedBoxBesideAValueDropsItAndIsTickedAgain)
 {
-    PisoDePrueba piso;
+    PisoDePrueba piso({{u"BoxK", u"1"}});
     piso.Teclear(u"BoxGaraje", u"12000");
     piso.Salir();
+    QStringList anexos;
+    std::vector<Currency> garajes;
+    QObject::connect(&piso.form.campo(u"BoxAnexos"), &CampoTexto::Change, &piso.form, [&] {
+        anexos << piso.texto(u"BoxAnexos");
+        garajes.push_back(piso.calculo.ValorGaraje);
+    });
     piso.form.casilla(u"CheckGrj").Pulsar();
+    EXPECT_EQ(anexos, (QStringList{u"0,00"_s, u"12.000,00"_s}));
+    EXPECT_EQ(garajes, (std::vector<Currency>{Importe(0), Importe(12000)}));
     EXPECT_TRUE(piso.form.marcada(u"CheckGrj"));
     EXPECT_EQ(piso.texto(u"BoxGaraje"), u"12.000,00"_s);
+    EXPECT_EQ(piso.texto(u"BoxTotal"), u"12.000,00"_s);
+}
+
+TEST(Anexos, AnEmptiedFieldIsTheWayToDropAnAnnex)
+{
+    PisoDePrueba piso({{u"BoxK", u"1"}});
+    piso.Teclear(u"BoxGaraje", u"12000");
+    piso.Salir();
+    piso.form.Enfocar(u"BoxGaraje");
+    piso.form.campo(u"BoxGaraje").PulsarTecla(8);
+    piso.Salir();
+    EXPECT_FALSE(piso.form.marcada(u"CheckGrj"));
+    EXPECT_EQ(piso.texto(u"BoxAnexos"), u"0,00"_s);
+    EXPECT_EQ(piso.texto(u"BoxGaraje"), QString());
 }
 
 TEST(Anexos, ABoxTickedBesideAnEmptyFieldIsClearedAgain)

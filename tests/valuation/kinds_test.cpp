@@ -1,4 +1,5 @@
 #include "support/test_form.h"
+#include "valuation/figures.h"
 
 #include <gtest/gtest.h>
 
@@ -111,20 +112,31 @@ TEST(Apto, DiffersInTwoLists)
 TEST(Apto, GivesTheFlatsFiguresToTheLastDecimal)
 {
     const CasoDePrueba::Textos entrada = {
-        {u"BoxConst", u"97,43"},       {u"BoxPlantas", u"6"}, {u"BoxVPP", u"4"},
-        {u"BoxAntig", u"17"},          {u"BoxCc", u"613,77"}, {u"BoxK", u"1,37"},
-        {u"BoxRepercusion", u"288,31"}};
+        {u"BoxConst", u"97,43"},        {u"BoxPlantas", u"6"}, {u"BoxVPP", u"4"},
+        {u"BoxAntig", u"17"},           {u"BoxCc", u"613,77"}, {u"BoxK", u"1,37"},
+        {u"BoxRepercusion", u"288,31"}, {u"Text9", u"1234,5"}, {u"BoxTrastero", u"4321"},
+        {u"BoxProvisional", u"98765"}};
     PisoDePrueba piso(entrada);
     CasoDePrueba apto(kDescripcionApto, entrada);
-    for (const int superficie : {0, 1}) {
-        for (Formulario* form : {&piso.form, &apto.form}) {
-            form->opciones(u"Sup").Elegir(superficie);
-            form->Recalcular();
-        }
-        EXPECT_EQ(piso.calculo.ValorTotal, apto.calculo.ValorTotal);
-        EXPECT_EQ(piso.calculo.ValorUnitarioSuelo, apto.calculo.ValorUnitarioSuelo);
-        EXPECT_EQ(piso.calculo.SuperficieUtil, apto.calculo.SuperficieUtil);
+    const auto enAmbos = [&](const auto& gesto) {
+        for (CasoDePrueba* caso : {static_cast<CasoDePrueba*>(&piso), &apto})
+            gesto(*caso);
+        CompararFiguras(piso.calculo, apto.calculo);
+        for (const QStringView campo : kCamposResultado)
+            EXPECT_EQ(piso.texto(campo), apto.texto(campo)) << campo.toString().toStdString();
         EXPECT_FALSE(piso.calculo.ValorTotal.esCero());
+    };
+    for (const int superficie : {0, 1}) {
+        for (const QStringView provisional : {u"98765", u""}) {
+            enAmbos([&](CasoDePrueba& caso) { // backward, then forward
+                caso.form.opciones(u"Sup").Elegir(superficie);
+                caso.form.DejarCampo(u"BoxTrastero");
+                caso.Escribir({{u"BoxProvisional", provisional}, {u"BoxRepercusion", u"288,31"}});
+                caso.form.DejarCampo(u"BoxProvisional");
+            });
+            enAmbos([](CasoDePrueba& caso) { caso.form.REDONDEADOR(); });
+            enAmbos([](CasoDePrueba& caso) { caso.form.boton(u"SSCommand7").Pulsar(); });
+        }
     }
 }
 
