@@ -75,10 +75,11 @@ protected:
     {
         piso.rejilla(u"GridImagen").AddItem(ruta + u'\t' + nombre);
     }
-    /// What the preview shows: the picture's colour at the middle of its left half, and whether there is one.
+    /// What the preview shows at a point of it.
     QColor ColorDeLaVista(QPoint donde)
     {
-        return widget<CuadroImagen>(u"Imagen").grab().toImage().pixelColor(donde);
+        const QImage foto = widget<CuadroImagen>(u"Imagen").grab().toImage();
+        return foto.pixelColor(donde * foto.devicePixelRatio());
     }
     bool hayImagen() { return widget<CuadroImagen>(u"Imagen").accessibleDescription() != u"Sin imagen"; }
     bool EsperarImagen()
