@@ -40,7 +40,9 @@ constexpr QSize kFotografia(640, 480);
 void Esperar(int ms)
 {
     QEventLoop bucle;
-    QTimer::singleShot(ms, &bucle, &QEventLoop::quit);
+    QTimer reloj;
+    QObject::connect(&reloj, &QTimer::timeout, &bucle, &QEventLoop::quit);
+    reloj.start(ms);
     bucle.exec();
 }
 
@@ -142,12 +144,15 @@ private:
     template <class F>
     void RetratarModal(const QString& nombre, F mostrar)
     {
-        QTimer::singleShot(2 * kRespiro, [this, nombre] {
+        QTimer reloj;
+        reloj.setSingleShot(true);
+        QObject::connect(&reloj, &QTimer::timeout, &reloj, [this, nombre] {
             QWidget* vista = QApplication::activeModalWidget();
             Guardar(vista, nombre);
             if (vista)
                 vista->close();
         });
+        reloj.start(2 * kRespiro);
         mostrar();
     }
 
