@@ -204,6 +204,19 @@ TEST_F(PrintPreview, PaperGetsTheSamePages)
         EXPECT_TRUE(TextoPdf(pdf, i + 1).startsWith(Allanado(paginas.texto(i))));
 }
 
+TEST_F(PrintPreview, APrinterThatRefusesIsTold)
+{
+    pdf = carpeta.filePath(u"no/hay.pdf"_s);
+    ventana.Imprimir();
+    ASSERT_EQ(dialogos.mensajes.size(), 1U);
+    EXPECT_EQ(dialogos.mensajes[0].texto,
+              u"No se ha podido imprimir el documento. Compruebe que la impresora está encendida y "
+              u"conectada"_s);
+    EXPECT_EQ(dialogos.mensajes[0].titulo, u"Aviso"_s);
+    EXPECT_EQ(dialogos.mensajes[0].icono, IconoMensaje::Aviso);
+    EXPECT_TRUE(ventana.isVisible());
+}
+
 TEST_F(PrintPreview, EveryButtonHasANameAndNoTwoShareAMnemonic)
 {
     QString usadas;

@@ -1,104 +1,23 @@
 #include "photos.h"
-#include "support/fake_ports.h"
-#include "support/fake_screen.h"
-#include "support/test_database.h"
+#include "windows_fixture.h"
 
-#include "report/viewer.h"
-#include "shell/application.h"
-#include "shell/exit_restart.h"
-#include "shell/start_window.h"
-#include "ui/desktop.h"
-#include "ui/rich_text_widget.h"
 #include "ui/tree_model.h"
-#include "valuation/case_form.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QStackedWidget>
-#include <QTabWidget>
 #include <QTableView>
-#include <QTest>
 #include <QTextBlock>
 #include <QTimer>
 #include <QWindow>
-#include <gtest/gtest.h>
 
 namespace valmerix {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The whole program on the real screen classes, its store in a folder of its own.
-class Windows : public testing::Test
-{
-protected:
-    Windows()
-    {
-        sistema.carpeta = carpeta.path();
-        aplicacion.Arrancar();
-        Ejecutar(u"UPDATE Empresa SET Nombre = 'Túria Tasaciones'"_s);
-        Ejecutar(u"INSERT INTO Tasadores (Nombre,Contador,Poblacion,Provincia) VALUES ('Rosa Peña',4,"
-                 u"'Alcoi','Alicante')"_s);
-    }
-
-    void Ejecutar(const QString& sql)
-    {
-        AccesoDatos::clsConsulta consulta;
-        consulta.AbrirBaseDatosEmpresa(aplicacion.compartido().RutaBaseDatos);
-        consulta.EjecutarSentencia(u"Empresa"_s, sql);
-        consulta.Confirmar();
-    }
-
-    VistaVentana& Vista(const Ventana& ventana)
-    {
-        VistaVentana* vista = pantalla.vista(ventana);
-        if (!vista)
-            throw std::logic_error("no view of " + ventana.nombre().toStdString());
-        return *vista;
-    }
-    VistaVentana* VistaModal() { return qobject_cast<VistaVentana*>(QApplication::activeModalWidget()); }
-    QAbstractButton& Boton_(QWidget& vista, const QString& nombre)
-    {
-        return *vista.findChild<QAbstractButton*>(nombre);
-    }
-    void Pulsar(QWidget& vista, const QString& nombre)
-    {
-        QTest::mouseClick(&Boton_(vista, nombre), Qt::LeftButton);
-    }
-    void Teclear(QStringView campo, const QString& texto)
-    {
-        Formulario& forma = *aplicacion.FormularioActual();
-        forma.Enfocar(campo);
-        QWidget* widget = Vista(forma).enlazador().de(campo);
-        QTest::keyClicks(widget, texto);
-    }
-    void AbrirPiso()
-    {
-        aplicacion.inicio()->TerminarPortada();
-        Pulsar(Vista(*aplicacion.inicio()), u"SSCommand2(0)"_s);
-        Vista(*aplicacion.FormularioActual()).activateWindow();
-    }
-    void Redactar()
-    {
-        Pulsar(Vista(*aplicacion.paleta()), u"Botonera(0)"_s);
-        ASSERT_TRUE(
-            QTest::qWaitFor([&] { return aplicacion.visor() && pantalla.vista(*aplicacion.visor()); }));
-    }
-    EditorInforme& Informe() { return *Vista(*aplicacion.visor()).findChild<EditorInforme*>(u"Texto"_s); }
-
-    QTemporaryDir carpeta;
-    FakeDialogos dialogos;
-    FakeReloj reloj;
-    FakeSistema sistema;
-    PantallaQt pantalla;
-    FakeCaptura captura;
-    FakeImpresion impresion;
-    Aplicacion aplicacion{Puertos{dialogos, reloj, sistema, pantalla, captura, impresion}};
-};
 
 TEST_F(Windows, TheTitleShowsItsLettersAndAClickEndsIt)
 {
