@@ -48,6 +48,18 @@ Currency Currency::de(double importe)
     return deDiezmilesimas(static_cast<qint64>(negativo ? 0 - total : total));
 }
 
+std::optional<Currency> Currency::deDecimal(QStringView texto)
+{
+    constexpr qsizetype kDecimales = 4;
+    if (texto.size() <= kDecimales + 1 || texto.at(texto.size() - kDecimales - 1) != u'.')
+        return std::nullopt;
+    QString cifras = texto.toString();
+    cifras.remove(cifras.size() - kDecimales - 1, 1);
+    bool vale = false;
+    const qint64 n = cifras.toLongLong(&vale);
+    return vale ? std::optional(deDiezmilesimas(n)) : std::nullopt;
+}
+
 QString Currency::decimal() const
 {
     const quint64 magnitud = n_ < 0 ? 0 - static_cast<quint64>(n_) : static_cast<quint64>(n_);

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <compare>
+#include <optional>
 #include <stdexcept>
 
 namespace valmerix {
@@ -36,6 +37,8 @@ public:
 
     /// Plain text with a point and four decimals: "16923.0800", "-0.5000".
     QString decimal() const;
+    /// What `decimal` has written; nothing for any other text.
+    static std::optional<Currency> deDecimal(QStringView texto);
 
     constexpr bool esCero() const { return n_ == 0; }
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QDate>
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 namespace valmerix {
@@ -31,6 +32,8 @@ class Reloj
 public:
     virtual ~Reloj() = default;
     virtual QDate hoy() const = 0;
+    /// Local time.
+    virtual QDateTime ahora() const = 0;
 };
 
 /// The machine outside the program.
@@ -55,6 +58,8 @@ public:
     /// Empties the clipboard and puts the picture of a file there, upright. False when the file holds none
     /// that can be read; the clipboard then stays as it is.
     virtual bool CopiarImagenAlPortapapeles(const QString& ruta) = 0;
+    /// Runs `tarea` once from the event loop, so many milliseconds from now.
+    virtual void Aplazar(int milisegundos, std::function<void()> tarea) = 0;
     /// Ends the process. In the running program it does not return to ordinary work.
     virtual void TerminarProceso(int codigo) = 0;
 };

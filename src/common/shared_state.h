@@ -28,6 +28,8 @@ struct EstadoCompartido
     std::function<void(const QString& base, const QString& sql)> alEjecutarSQL;
     /// Run before the first write of each connection to "Empresa"; it must not throw.
     std::function<void()> antesDeEscribir;
+    /// Run as soon as the case in hand stands stored, before she is told; it must not throw.
+    std::function<void()> alGuardarCaso;
 };
 
 } // namespace valmerix

@@ -49,6 +49,7 @@ void Ventana::Enfocar(Control* control)
     const bool admite = !control || (control->aceptaFoco() && control->Enabled() && control->Visible());
     if (control == foco_ || !admite)
         return;
+    const QScopedValueRollback moviendo(moviendoFoco_, moviendoFoco_ + 1);
     Control* anterior = foco_;
     foco_ = control;
     if (anterior)
@@ -66,9 +67,18 @@ void Ventana::RenovarFoco()
     Control* enMano = foco_;
     if (!enMano)
         return;
+    const QScopedValueRollback moviendo(moviendoFoco_, moviendoFoco_ + 1);
     Q_EMIT enMano->LostFocus();
     if (foco_ == enMano)
         Q_EMIT enMano->GotFocus();
+}
+
+void Ventana::setModificada(bool valor)
+{
+    if (modificada_ == valor)
+        return;
+    modificada_ = valor;
+    Q_EMIT PresentacionCambiada();
 }
 
 void Ventana::setVisible(bool valor)

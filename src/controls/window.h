@@ -75,6 +75,12 @@ public:
     /// Ends the turn of the control in hand and begins a new one: LostFocus, then GotFocus of the same. For
     /// commands that come from a window which takes no focus.
     void RenovarFoco();
+    /// Whether the procedures of a field being left or reached are running: what they write is not hers.
+    bool moviendoFoco() const { return moviendoFoco_ > 0; }
+
+    /// Whether it holds changes that are stored nowhere; her screen marks it, no text does.
+    bool modificada() const { return modificada_; }
+    void setModificada(bool valor);
 
     bool visible() const { return visible_; }
     void setVisible(bool valor);
@@ -104,7 +110,7 @@ public:
     static QString Indice(QStringView nombre, int i);
 
 Q_SIGNALS:
-    void PresentacionCambiada(); ///< caption, visibility or place
+    void PresentacionCambiada(); ///< caption, visibility, place or the mark of unstored changes
     void FocoCambiado();
     void Resize();
     void Activate();
@@ -134,6 +140,8 @@ private:
     EstadoVentana estado_ = EstadoVentana::Normal;
     QRect lugar_;
     QPointer<Ventana> dueña_;
+    int moviendoFoco_ = 0;
+    bool modificada_ = false;
     bool visible_ = false;
     bool abierta_ = true;
     bool cerrando_ = false;

@@ -13,11 +13,8 @@
 #include "store/query.h"
 #include "store/schema.h"
 #include "valuation/case_form.h"
-#include "valuation/kind_descriptions.h"
 
 #include <QFileInfo>
-#include <algorithm>
-#include <stdexcept>
 
 namespace valmerix {
 
@@ -25,29 +22,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize kTamañoCaso(1080, 740);
 constexpr QSize kTamañoFicha(860, 680);
-constexpr int kAnchoPaleta = 160;
-
-/// Centred horizontally together with the toolbar at its right edge.
-QRect LugarDelCaso(const QRect& area)
-{
-    const QSize ventana = kTamañoCaso.boundedTo(area.size());
-    return {{std::max(0, (area.width() - ventana.width() - kAnchoPaleta) / 2),
-             std::max(0, (area.height() - ventana.height()) / 2)},
-            ventana};
-}
 
 } // namespace
 
 Aplicacion::Aplicacion(const Puertos& puertos)
     : puertos_(puertos)
-    , copia_(compartido_, puertos.dialogos, puertos.reloj)
+    , red_(compartido_, calculo_, frases_, puertos.dialogos, puertos.reloj, puertos.sistema)
 {
-    compartido_.antesDeEscribir = [this] { copia_.AntesDeEscribir(); };
 }
 
-Aplicacion::~Aplicacion() = default;
+Aplicacion::~Aplicacion()
+{
+    red_.Volcar();
+}
 
 void Aplicacion::Arrancar()
 {
@@ -73,13 +61,16 @@ void Aplicacion::EmpezarDeNuevo(const std::function<void()>& antes)
 void Aplicacion::InformarFallo(const std::exception& fallo)
 {
     puertos_.sistema.PunteroOcupado(false);
+    red_.Anotar(); // what it has interrupted may have changed the case
     const auto* almacen = dynamic_cast<const ErrorAlmacen*>(&fallo);
     const bool seguir = puertos_.dialogos.InformarFallo(
         u"La operación se ha detenido donde estaba; la ventana y todo lo escrito siguen como estaban.\n\n"_s +
             MensajeDe(fallo),
         almacen ? almacen->sql() : QString());
-    if (!seguir)
-        puertos_.sistema.TerminarProceso(1);
+    if (seguir)
+        return;
+    red_.Volcar();
+    puertos_.sistema.TerminarProceso(1);
 }
 
 void Aplicacion::InstalarSiFalta()
@@ -100,9 +91,12 @@ void Aplicacion::MostrarInicio()
     connect(inicio_.get(), &Form1::AbrirPedido, this, &Aplicacion::AbrirCaso);
     connect(inicio_.get(), &Form1::CopiarPedido, this, &Aplicacion::CopiarCaso);
     connect(inicio_.get(), &Form1::NuevoPedido, this, &Aplicacion::NuevoCaso);
+    connect(inicio_.get(), &Form1::RecuperarPedido, this, &Aplicacion::RecuperarBorrador);
     connect(inicio_.get(), &Form1::SalidaPedida, this, &Aplicacion::MostrarSalida);
     inicio_->HabilitarTipos(TiposHechos());
     inicio_->Load();
+    if (const auto borrador = red_.Pendiente())
+        inicio_->OfrecerBorrador(RedSeguridad::Describir(*borrador));
     puertos_.pantalla.Mostrar(*inicio_);
 }
 
@@ -117,92 +111,6 @@ void Aplicacion::CargarFicha()
         return;
     ficha_ = std::make_unique<Ficha>(compartido_, puertos_.dialogos, puertos_.reloj, puertos_.sistema);
     ficha_->Load();
-}
-
-void Aplicacion::CrearFormulario(const QString& letra)
-{
-    const DescripcionForma* descripcion = letra.size() == 1 ? DescripcionDe(letra.front()) : nullptr;
-    if (!descripcion) {
-        throw std::runtime_error(
-            u"Esta versión no abre tasaciones del tipo «%1»."_s.arg(letra).toStdString());
-    }
-    formulario_ = std::make_unique<Formulario>(
-        *descripcion, ServiciosCaso{compartido_, calculo_, frases_, opciones_, puertos_.dialogos,
-                                    puertos_.reloj, puertos_.sistema, *this});
-    formulario_->Mover(LugarDelCaso(puertos_.pantalla.area()));
-    connect(formulario_.get(), &Ventana::Resize, this, &Aplicacion::ImpedirIcono);
-    formulario_->Load();
-}
-
-// The desktop may turn the window into an icon; it goes down as its own button takes it, with its toolbar.
-void Aplicacion::ImpedirIcono()
-{
-    if (formulario_->WindowState() != EstadoVentana::Minimizada)
-        return;
-    formulario_->setWindowState(EstadoVentana::Normal);
-    Minimizar();
-}
-
-// Half loaded: nothing of it may be saved; the start window stays, and alone.
-void Aplicacion::DescartarFormulario()
-{
-    CerrarPaleta();
-    compartido_.PaletaAbierta = false; // asked for by the window's load, though never shown
-    formulario_.reset();
-    LimpiarEstado();
-}
-
-bool Aplicacion::AbrirCaso(const QString& clave)
-{
-    retiradas_.clear();
-    if (clave.isEmpty())
-        throw std::runtime_error("No hay ninguna tasación seleccionada en el árbol.");
-    const std::optional<ClaveCaso> caso = PartirClave(clave);
-    if (!caso)
-        return false;
-    CargarFicha();
-    try {
-        CrearFormulario(caso->Tipo);
-        CargarCaso(*formulario_, compartido_, *caso);
-        formulario_->Enfocar(u"SSTab1"); // some fields take the focus while they are filled
-    } catch (const std::exception&) {
-        DescartarFormulario();
-        throw;
-    }
-    MostrarCaso();
-    return true;
-}
-
-void Aplicacion::CopiarCaso(const QString& clave)
-{
-    // On a folder there is nothing to copy, and the start window is the only one open.
-    if (AbrirCaso(clave))
-        compartido_.NumeroTasacionActual = 0;
-}
-
-void Aplicacion::NuevoCaso(int indice)
-{
-    retiradas_.clear();
-    puertos_.sistema.PunteroOcupado(true);
-    CargarFicha();
-    try {
-        CrearFormulario(LetraDelBoton(indice));
-    } catch (const std::exception&) {
-        DescartarFormulario();
-        throw;
-    }
-    MostrarCaso();
-    puertos_.sistema.PunteroOcupado(false);
-}
-
-void Aplicacion::MostrarCaso()
-{
-    minimizado_ = std::make_unique<Minimizado>(compartido_, *this);
-    minimizado_->setCaption(formulario_->control(u"EtiquetaCaption").Caption());
-    puertos_.pantalla.Mostrar(*minimizado_);
-    puertos_.pantalla.Mostrar(*formulario_);
-    formulario_->CargaPaleta();
-    CerrarInicio();
 }
 
 void Aplicacion::EjecutarOrden(OrdenPaleta orden)
@@ -321,6 +229,7 @@ void Aplicacion::Reiniciar()
 {
     Retirar(paleta_);
     Retirar(formulario_);
+    red_.Abandonar();
     Retirar(minimizado_);
     CerrarVisor();
     EmpezarDeNuevo([] {});
@@ -352,12 +261,16 @@ void Aplicacion::MostrarObservaciones()
 
 void Aplicacion::MostrarProblema()
 {
+    const QString antes = frases_.FraseUrbanistica;
     Problema editor(frases_);
     puertos_.pantalla.MostrarModal(editor);
+    if (frases_.FraseUrbanistica != antes)
+        red_.Anotar();
 }
 
 void Aplicacion::MostrarSalida()
 {
+    red_.Volcar(); // the exit itself asks nothing and ends at once
     SALIDA salida(puertos_.sistema, puertos_.pantalla);
     puertos_.pantalla.MostrarModal(salida);
 }

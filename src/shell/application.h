@@ -5,8 +5,8 @@
 #include "common/printed_document.h"
 #include "report/viewer_environment.h"
 #include "settings/options.h"
-#include "shell/daily_backup.h"
 #include "shell/minimized_bars.h"
+#include "shell/safety_net.h"
 #include "shell/toolbar.h"
 #include "store/program_options.h"
 #include "valuation/calculation_state.h"
@@ -67,6 +67,8 @@ public:
     void CopiarCaso(const QString& clave);
     /// A new case of the kind of button `indice` (0 to 5).
     void NuevoCaso(int indice);
+    /// Opens the newest draft as it stood. Throws when none is left, and ErrorAlmacen.
+    void RecuperarBorrador();
     void EjecutarOrden(OrdenPaleta orden);
     /// The manual, on the page that tells of the window of that name; where it was left when it is
     /// empty. A manual that cannot be read is told.
@@ -134,7 +136,7 @@ private:
     EstadoCalculo calculo_;
     FrasesInforme frases_;
     OpcionesPrograma opciones_;
-    CopiaDiaria copia_;
+    RedSeguridad red_;
     std::vector<std::unique_ptr<Ventana>> retiradas_;
     std::unique_ptr<Form1> inicio_;
     std::unique_ptr<Ficha> ficha_;

@@ -30,9 +30,10 @@ class RelojDelSistema : public Reloj
 {
 public:
     QDate hoy() const override { return QDate::currentDate(); }
+    QDateTime ahora() const override { return QDateTime::currentDateTime(); }
 };
 
-/// A program folder of its own, gone at the end.
+/// A program folder of its own, gone at the end. There is no event loop: what is put off does not run.
 class SistemaSinPantalla : public Sistema
 {
 public:
@@ -44,6 +45,7 @@ public:
     void DejarPintar() override {}
     void CopiarAlPortapapeles(const QString&) override {}
     bool CopiarImagenAlPortapapeles(const QString&) override { return false; }
+    void Aplazar(int, std::function<void()>) override {}
     void TerminarProceso(int) override {}
 
 private:

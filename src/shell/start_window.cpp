@@ -34,12 +34,20 @@ constexpr std::array kTipos = {
 constexpr std::array<QStringView, 5> kDetrasDelTitulo = {u"Picture1", u"SSPanel1", u"Arbol", u"cmdAbrir",
                                                          u"cmdCopiar"};
 
+// Behind the title too, when there is something to recover.
+constexpr std::array<QStringView, 2> kRecuperacion = {u"cmdRecuperar", u"lblRecuperar"};
+
 QString Letra(int i)
 {
     return Ventana::Indice(u"Label1", i);
 }
 
 } // namespace
+
+QString TituloDelBoton(int indice)
+{
+    return kTipos.at(static_cast<size_t>(indice)).titulo.toString();
+}
 
 void LeerFormatoMoneda(EstadoCompartido& compartido)
 {
@@ -88,7 +96,11 @@ void Form1::CrearControles()
     Añadir<Arbol>(u"Arbol"_s).setCaption(u"Tasaciones guardadas"_s);
     Añadir<Boton>(u"cmdAbrir"_s).setCaption(u"Abrir"_s);
     Añadir<Boton>(u"cmdCopiar"_s).setCaption(u"Copiar"_s);
+    Añadir<Boton>(u"cmdRecuperar"_s).setCaption(u"Recuperar el trabajo no guardado"_s);
+    Añadir<Etiqueta>(u"lblRecuperar"_s);
     for (const QStringView nombre : kDetrasDelTitulo)
+        control(nombre).setVisible(false);
+    for (const QStringView nombre : kRecuperacion)
         control(nombre).setVisible(false);
     Mover(QRect(0, 0, 900, 600));
 }
@@ -100,6 +112,7 @@ void Form1::ConectarControles()
     connect(&boton(u"cmdAbrir"), &Boton::Click, this, [&arbol] { arbol.DoblePulsar(arbol.seleccion()); });
     connect(&boton(u"cmdCopiar"), &Boton::Click, this,
             [this, &arbol] { Q_EMIT CopiarPedido(arbol.seleccion()); });
+    connect(&boton(u"cmdRecuperar"), &Boton::Click, this, &Form1::RecuperarPedido);
     for (int i = 0; i < static_cast<int>(kTipos.size()); ++i) {
         connect(&boton(Indice(u"SSCommand2", i)), &Boton::Click, this, [this, i] { Q_EMIT NuevoPedido(i); });
     }
@@ -155,8 +168,19 @@ void Form1::TerminarPortada()
     control(u"Label3").setVisible(false);
     for (const QStringView nombre : kDetrasDelTitulo)
         control(nombre).setVisible(true);
+    for (const QStringView nombre : kRecuperacion)
+        control(nombre).setVisible(hayBorrador_);
     control(u"Timer1").setEnabled(false);
     control(u"Timer2").setEnabled(false);
+}
+
+void Form1::OfrecerBorrador(const QString& detalle)
+{
+    hayBorrador_ = true;
+    control(u"cmdRecuperar").setToolTip(detalle);
+    control(u"lblRecuperar").setCaption(detalle);
+    for (const QStringView nombre : kRecuperacion)
+        control(nombre).setVisible(control(u"Arbol").Visible());
 }
 
 void Form1::HabilitarTipos(const std::vector<bool>& hechos)

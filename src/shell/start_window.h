@@ -9,6 +9,9 @@ namespace valmerix {
 /// Fixes the money pattern from the settings; it stays as it was when they have no row. Throws ErrorAlmacen.
 void LeerFormatoMoneda(EstadoCompartido& compartido);
 
+/// What stands under new-case button `indice`.
+QString TituloDelBoton(int indice);
+
 /// `Form1`: the title, the tree of stored cases, the six buttons for new ones.
 class Form1 : public Ventana
 {
@@ -24,6 +27,8 @@ public:
 
     /// Kinds whose window stands, by the index of their button; the others are disabled.
     void HabilitarTipos(const std::vector<bool>& hechos);
+    /// Shows the quiet line that opens unsaved work again; `detalle` says which.
+    void OfrecerBorrador(const QString& detalle);
 
     /// The program's only window at that moment: closing it is leaving the program.
     void PedirCierre() override { Q_EMIT SalidaPedida(); }
@@ -32,6 +37,7 @@ Q_SIGNALS:
     void AbrirPedido(const QString& clave);
     void CopiarPedido(const QString& clave);
     void NuevoPedido(int indice);
+    void RecuperarPedido();
     void SalidaPedida();
 
 protected:
@@ -47,6 +53,7 @@ private:
     Sistema& sistema_;
     Pantalla& pantalla_;
     qint16 letrasVistas_ = 0;
+    bool hayBorrador_ = false;
 };
 
 } // namespace valmerix

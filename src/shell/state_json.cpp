@@ -107,6 +107,28 @@ QJsonObject EstadoEnJson(const EstadoCalculo& estado)
     return objeto;
 }
 
+EstadoCalculo EstadoDeJson(const QJsonObject& objeto)
+{
+    EstadoCalculo estado;
+    for (const auto& variable : kDobles)
+        estado.*variable.miembro = objeto.value(variable.nombre).toDouble();
+    for (const auto& variable : kEnteros)
+        estado.*variable.miembro = static_cast<qint16>(objeto.value(variable.nombre).toInt());
+    for (const auto& variable : kImportes) {
+        estado.*variable.miembro =
+            Currency::deDecimal(objeto.value(variable.nombre).toString()).value_or(Currency());
+    }
+    return estado;
+}
+
+FrasesInforme FrasesDeJson(const QJsonObject& objeto)
+{
+    FrasesInforme frases;
+    for (const auto& variable : kFrases)
+        frases.*variable.miembro = objeto.value(variable.nombre).toString();
+    return frases;
+}
+
 QJsonObject FrasesEnJson(const FrasesInforme& frases)
 {
     QJsonObject objeto;

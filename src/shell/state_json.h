@@ -17,4 +17,8 @@ QJsonObject EstadoEnJson(const EstadoCalculo& estado);
 
 QJsonObject FrasesEnJson(const FrasesInforme& frases);
 
+/// Back from what the two above have written. A variable that is missing or no number counts 0.
+EstadoCalculo EstadoDeJson(const QJsonObject& objeto);
+FrasesInforme FrasesDeJson(const QJsonObject& objeto);
+
 } // namespace valmerix

@@ -173,6 +173,8 @@ bool SalvaVivienda(CasoAbierto& caso, EstadoCompartido& compartido, Dialogos& di
         guardado.RecogerFallo();
         throw;
     }
+    if (compartido.alGuardarCaso)
+        compartido.alGuardarCaso();
     dialogos.Mensaje(u"Informe guardado con éxito"_s, u"Aviso"_s, IconoMensaje::Informacion);
     return true;
 }

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTimer>
 #include <cstdlib>
 
 namespace valmerix {
@@ -43,6 +44,11 @@ QString FicheroCerrojo(const QString& carpeta)
 QDate RelojQt::hoy() const
 {
     return QDate::currentDate();
+}
+
+QDateTime RelojQt::ahora() const
+{
+    return QDateTime::currentDateTime();
 }
 
 QString CarpetaDelPrograma(const QString& carpetaEjecutable, const QString& datosDeUsuario)
@@ -127,6 +133,11 @@ bool SistemaQt::CopiarImagenAlPortapapeles(const QString& ruta)
     portapapeles.clear();
     portapapeles.setImage(imagen);
     return true;
+}
+
+void SistemaQt::Aplazar(int milisegundos, std::function<void()> tarea)
+{
+    QTimer::singleShot(milisegundos, qApp, std::move(tarea));
 }
 
 void SistemaQt::TerminarProceso(int codigo)

@@ -11,6 +11,7 @@ class RelojQt : public Reloj
 {
 public:
     QDate hoy() const override;
+    QDateTime ahora() const override;
 };
 
 /// The folder that holds the program's data: that of the executable when it holds "Datos" or may hold it,
@@ -35,6 +36,7 @@ public:
     void DejarPintar() override;
     void CopiarAlPortapapeles(const QString& texto) override;
     bool CopiarImagenAlPortapapeles(const QString& ruta) override;
+    void Aplazar(int milisegundos, std::function<void()> tarea) override;
     [[noreturn]] void TerminarProceso(int codigo) override;
 
 private:

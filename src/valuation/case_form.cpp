@@ -109,6 +109,13 @@ void Formulario::ActualizarResultados()
     REDONDEADOR();
 }
 
+void Formulario::Reanudar()
+{
+    contadores_.Recontar(*this);
+    if (const auto* enMano = dynamic_cast<const CampoTexto*>(conFoco()))
+        foco_.Retomar(*enMano);
+}
+
 void Formulario::MiPosicion()
 {
     EstadoCompartido& c = servicios_.compartido;

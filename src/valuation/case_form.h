@@ -63,6 +63,9 @@ public:
     /// The LostFocus rule of a field, for procedures that write into it.
     void DejarCampo(QStringView campo) { foco_.Dejar(campo); }
 
+    /// To be run when controls, figures and sentences have been put back as they once stood, without events.
+    void Reanudar();
+
     /// Stores the window's place in the shared state.
     void MiPosicion();
     /// Shows or closes the toolbar, as the tag of `SSCommand3` says.

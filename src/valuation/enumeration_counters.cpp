@@ -60,6 +60,18 @@ ContadoresEnumeracion::ContadoresEnumeracion(const Ventana& ventana)
     }
 }
 
+void ContadoresEnumeracion::Recontar(const Ventana& ventana)
+{
+    for (size_t g = 0; g < kGrupos.size(); ++g) {
+        grupos_.at(g).assign(grupos_.at(g).size(), {});
+        for (size_t i = 0; i < kGrupos.at(g).size(); ++i) {
+            const auto* casilla = dynamic_cast<const Casilla*>(ventana.buscar(kGrupos.at(g)[i]));
+            if (casilla && casilla->Value() == 1)
+                Contar(g, i, true);
+        }
+    }
+}
+
 void ContadoresEnumeracion::Contar(size_t grupo, size_t item, bool marcada)
 {
     const auto paso = static_cast<quint8>(marcada ? 1 : -1);

@@ -35,6 +35,9 @@ public:
     ContadoresEnumeracion(const ContadoresEnumeracion&) = delete;
     ContadoresEnumeracion& operator=(const ContadoresEnumeracion&) = delete;
 
+    /// Takes the counts from the boxes as they stand, for a window whose boxes were set without events.
+    void Recontar(const Ventana& ventana);
+
     /// Items from 0 in the order of CasillasDe; throw std::out_of_range behind the last.
     quint8 Antes(GrupoCasillas grupo, size_t i) const { return pareja(grupo, i).antes; }
     quint8 Despues(GrupoCasillas grupo, size_t i) const { return pareja(grupo, i).despues; }

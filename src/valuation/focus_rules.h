@@ -45,6 +45,8 @@ public:
 
     /// The LostFocus rule of a field of the table; nothing for another field.
     void Dejar(QStringView campo);
+    /// The field in hand was put there without its events, raw text and all.
+    void Retomar(const CampoTexto& campo) { TextoSuperficie_ = campo.Text(); }
 
 private:
     void Conectar(const ReglaFoco& regla, CampoTexto& campo);

@@ -25,6 +25,7 @@ struct SinDialogos : Dialogos
 struct RelojFijo : Reloj
 {
     QDate hoy() const override { return {2026, 11, 20}; }
+    QDateTime ahora() const override { return {hoy(), QTime(9, 30)}; }
 };
 
 struct SinSistema : Sistema
@@ -40,6 +41,7 @@ struct SinSistema : Sistema
     void PunteroOcupado(bool /*ocupado*/) override {}
     void DejarPintar() override {}
     void CopiarAlPortapapeles(const QString& /*texto*/) override {}
+    void Aplazar(int /*milisegundos*/, std::function<void()> /*tarea*/) override {}
     void TerminarProceso(int /*codigo*/) override {}
 };
 

@@ -6,6 +6,7 @@
 #include "valuation/case_form.h"
 
 #include <deque>
+#include <functional>
 #include <gtest/gtest.h>
 #include <utility>
 #include <vector>
@@ -76,7 +77,9 @@ class FakeReloj : public Reloj
 {
 public:
     QDate fecha{2026, 11, 20};
+    QTime hora{9, 30};
     QDate hoy() const override { return fecha; }
+    QDateTime ahora() const override { return {fecha, hora}; }
 };
 
 class FakeSistema : public Sistema
@@ -100,6 +103,12 @@ public:
     bool imagenLegible = true;
     std::vector<Arranque> arranques;
     std::vector<int> finales;
+    struct Aplazada
+    {
+        int milisegundos = 0;
+        std::function<void()> tarea;
+    };
+    std::deque<Aplazada> aplazadas; ///< what waits for the event loop
 
     QString carpetaPrograma() const override { return carpeta; }
     bool otraInstancia() override { return otra; }
@@ -118,7 +127,18 @@ public:
             imagenesCopiadas.append(ruta);
         return imagenLegible;
     }
+    void Aplazar(int milisegundos, std::function<void()> tarea) override
+    {
+        aplazadas.push_back({milisegundos, std::move(tarea)});
+    }
     void TerminarProceso(int codigo) override { finales.push_back(codigo); }
+
+    /// The event loop comes round: runs what waits now, not what that puts off anew.
+    void CorrerAplazadas()
+    {
+        for (const Aplazada& una : std::exchange(aplazadas, {}))
+            una.tarea();
+    }
 };
 
 /// Records what was shown.
