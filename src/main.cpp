@@ -8,6 +8,8 @@
 #include "ui/machine.h"
 #include "ui/printing_port.h"
 
+#include <QString>
+
 int main(int argc, char* argv[])
 {
     valmerix::AplicacionQt qt(argc, argv);
@@ -17,6 +19,7 @@ int main(int argc, char* argv[])
     valmerix::CapturaQt captura;
     valmerix::PantallaQt pantalla;
     valmerix::ImpresionQt impresion(dialogos);
+    pantalla.RecordarLugares(sistema.carpetaPrograma() + QStringLiteral("/Datos/ventanas.json"));
     valmerix::AyudaQt ayuda;
     valmerix::CargadorQt extension;
     valmerix::Aplicacion valmerix(

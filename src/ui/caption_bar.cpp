@@ -3,6 +3,7 @@
 #include "ui/icons.h"
 #include "ui/theme.h"
 #include "ui/window_drag.h"
+#include "ui/window_view.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -20,6 +21,31 @@ constexpr int kAlto = 42;
 constexpr int kFranja = 5;
 constexpr int kIcono = 20;
 constexpr int kIconoTipo = 26;
+constexpr int kMarca = 9;
+
+/// A point beside the caption while there are changes that are stored nowhere.
+class MarcaSinGuardar : public QLabel
+{
+public:
+    explicit MarcaSinGuardar(QWidget* padre)
+        : QLabel(padre)
+    {
+        setObjectName(u"marcaSinGuardar"_s);
+        setFixedSize(kMarca, kMarca);
+        setToolTip(kCambiosSinGuardar.toString());
+        setAccessibleName(kCambiosSinGuardar.toString());
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*evento*/) override
+    {
+        QPainter pintor(this);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        pintor.setPen(Qt::NoPen);
+        pintor.setBrush(palette().highlight());
+        pintor.drawEllipse(rect());
+    }
+};
 
 } // namespace
 
@@ -57,9 +83,21 @@ CabeceraVentana::CabeceraVentana(Enlazador& enlazador, QStringView etiqueta, QWi
     fila_->addWidget(icono_);
     fila_->addSpacing(medida::kEntreCampos);
     fila_->addWidget(titulo_);
+    fila_->addSpacing(medida::kEntreCampos);
+    PonerMarca();
     fila_->addStretch();
     enlazador.Atar(enlazador.ventana()->control(etiqueta), titulo_);
     ArrastrarPor(*this);
+}
+
+void CabeceraVentana::PonerMarca()
+{
+    auto* marca = new MarcaSinGuardar(this);
+    fila_->addWidget(marca);
+    Ventana* ventana = enlazador_.ventana();
+    const auto mostrar = [ventana, marca] { marca->setVisible(ventana->modificada()); };
+    connect(ventana, &Ventana::PresentacionCambiada, marca, mostrar);
+    mostrar();
 }
 
 QAbstractButton* CabeceraVentana::PonerBoton(QStringView nombre, const QString& icono)

@@ -11,8 +11,8 @@ class QLabel;
 
 namespace valmerix {
 
-/// The caption bar of a frameless window: the text of a label control, the window's own buttons, and the
-/// place by which the window is dragged.
+/// The caption bar of a frameless window: the text of a label control, the mark of changes that are stored
+/// nowhere, the window's own buttons, and the place by which the window is dragged.
 class CabeceraVentana : public QWidget
 {
     Q_OBJECT
@@ -37,6 +37,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* evento) override;
 
 private:
+    void PonerMarca();
+
     Enlazador& enlazador_;
     QHBoxLayout* fila_;
     QLabel* icono_;

@@ -30,7 +30,11 @@ VistaVentana& PantallaQt::VistaDe(Ventana& ventana)
     if (VistaVentana* hecha = vista(ventana))
         return *hecha;
     std::unique_ptr<VistaVentana, Borrador> nueva(CrearVista(ventana).release());
-    connect(&ventana, &Ventana::Cerrada, this, [this, &ventana] { Retirar(&ventana); });
+    connect(&ventana, &Ventana::Cerrada, this, [this, &ventana] {
+        Apuntar(ventana);
+        lugares_.Guardar(ficheroLugares_);
+        Retirar(&ventana);
+    });
     connect(&ventana, &QObject::destroyed, this, [this](QObject* muerta) { Retirar(muerta); });
     return *vistas_.emplace(&ventana, std::move(nueva)).first->second;
 }
@@ -41,6 +45,37 @@ void PantallaQt::Retirar(const QObject* ventana)
     vistas_.extract(ventana);
 }
 
+void PantallaQt::RecordarLugares(const QString& fichero)
+{
+    ficheroLugares_ = fichero;
+    lugares_.Leer(fichero);
+}
+
+void PantallaQt::Acomodar(Ventana& ventana) const
+{
+    QList<QRect> pantallas{area()}; // the first one takes what stood on a screen that is gone
+    for (const QScreen* pantalla : QGuiApplication::screens())
+        pantallas << pantalla->availableGeometry();
+    if (const auto lugar = lugares_.LugarDe(ventana.nombre(), pantallas))
+        ventana.Mover(*lugar);
+}
+
+void PantallaQt::Apuntar(const Ventana& ventana)
+{
+    const VistaVentana* suya = vista(ventana);
+    if (suya && !ficheroLugares_.isEmpty() && !(suya->windowState() & ~Qt::WindowActive))
+        lugares_.Apuntar(ventana.nombre(), ventana.lugar());
+}
+
+void PantallaQt::ApuntarTodas()
+{
+    for (const auto& [modelo, vista] : vistas_) {
+        if (vista->isVisible() && vista->ventana())
+            Apuntar(*vista->ventana());
+    }
+    lugares_.Guardar(ficheroLugares_);
+}
+
 void PantallaQt::Mostrar(Ventana& ventana)
 {
     VistaVentana& nueva = VistaDe(ventana);
@@ -48,6 +83,7 @@ void PantallaQt::Mostrar(Ventana& ventana)
         return;
     if (VistaVentana* servida = ventana.dueña() ? vista(*ventana.dueña()) : nullptr)
         nueva.PonerDelanteDe(*servida);
+    Acomodar(ventana);
     ventana.setVisible(true);
     nueva.Mostrar();
 }
@@ -65,6 +101,8 @@ void PantallaQt::MostrarModal(Ventana& ventana)
     if (QWidget* delante = QApplication::activeWindow(); delante && delante != &nueva)
         nueva.PonerDelanteDe(*delante);
     nueva.setWindowModality(Qt::ApplicationModal);
+    ApuntarTodas(); // it may be the one that ends the process
+    Acomodar(ventana);
     ventana.setVisible(true);
     nueva.Mostrar();
     if (ventana.abierta() && ventana.visible())

@@ -61,12 +61,17 @@ QWidget* VistaInicio::Portada()
 QWidget* VistaInicio::Menu()
 {
     auto* menu = new QWidget(this);
-    auto* fila = new QHBoxLayout(menu);
-    fila->setContentsMargins(medida::kBorde, medida::kBorde, medida::kBorde, medida::kBorde);
+    auto* todo = new QVBoxLayout(menu);
+    todo->setContentsMargins(medida::kBorde, medida::kBorde, medida::kBorde, medida::kBorde);
+    todo->setSpacing(medida::kEntreCampos);
+    auto* fila = new QHBoxLayout;
     fila->setSpacing(medida::kEntrePaneles);
     fila->addWidget(Tipos(menu));
     fila->addWidget(Guardadas(menu), 1);
-    std::vector<Control*> botones{&ventana()->control(u"cmdAbrir"), &ventana()->control(u"cmdCopiar")};
+    todo->addLayout(fila, 1);
+    todo->addLayout(Recuperacion(menu));
+    std::vector<Control*> botones{&ventana()->control(u"cmdAbrir"), &ventana()->control(u"cmdCopiar"),
+                                  &ventana()->control(u"cmdRecuperar")};
     for (int i = 0; i < static_cast<int>(std::size(kTipos)); ++i)
         botones.push_back(&ventana()->control(Ventana::Indice(u"SSCommand2", i)));
     RepartirMnemonicos(enlazador(), botones);
@@ -93,6 +98,22 @@ QWidget* VistaInicio::Tipos(QWidget* padre)
     panel->cuerpo()->addLayout(rejilla);
     panel->cuerpo()->addStretch();
     return panel;
+}
+
+// One quiet line below the rest, only when there is something to recover.
+QLayout* VistaInicio::Recuperacion(QWidget* padre)
+{
+    auto* linea = new QHBoxLayout;
+    auto* recuperar = enlazador().como<QPushButton>(u"cmdRecuperar", padre);
+    recuperar->setFlat(true);
+    recuperar->setAutoDefault(false);
+    auto* detalle = enlazador().como<QLabel>(u"lblRecuperar", padre);
+    detalle->setTextFormat(Qt::PlainText);
+    detalle->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // cut short, never widening
+    detalle->setForegroundRole(QPalette::PlaceholderText);
+    linea->addWidget(recuperar);
+    linea->addWidget(detalle, 1);
+    return linea;
 }
 
 QWidget* VistaInicio::Guardadas(QWidget* padre)

@@ -1,6 +1,5 @@
 #include "ui/toolbar_view.h"
 
-#include "ui/application.h"
 #include "ui/caption_bar.h"
 #include "ui/icons.h"
 #include "ui/kind_colours.h"
@@ -145,28 +144,13 @@ QWidget* VistaPaleta::CrearOrden(int indice)
     boton->setFocusPolicy(Qt::NoFocus);
     boton->setFixedWidth(kAnchoOrden);
     boton->setProperty("atajo", visible.atajo.toString());
-    enlazador().Atar(orden, boton);
-    connect(boton, &QToolButton::clicked, &orden, [this, &orden] { Ejecutar(orden); });
+    enlazador().AtarBoton(orden, boton);
     if (visible.atajo == kTeclaAyuda)
         return boton;
     auto* atajo = new QShortcut(QKeySequence(visible.atajo.toString()), this);
     atajo->setContext(Qt::ApplicationShortcut);
     connect(atajo, &QShortcut::activated, boton, [boton] { boton->click(); });
     return boton;
-}
-
-void VistaPaleta::Ejecutar(Boton& orden)
-{
-    const auto* activa = qobject_cast<VistaVentana*>(QApplication::activeWindow());
-    const QPointer<Ventana> caso(activa && activa != this ? activa->ventana() : nullptr);
-    const QPointer<Control> campo(caso ? caso->conFoco() : nullptr);
-    Protegido([&] {
-        if (caso)
-            caso->Enfocar(nullptr);
-        orden.Pulsar();
-    });
-    if (caso && caso->abierta() && caso->visible() && campo && !caso->conFoco())
-        Protegido([&] { caso->Enfocar(campo); });
 }
 
 void VistaPaleta::paintEvent(QPaintEvent* /*evento*/)

@@ -18,9 +18,6 @@ protected:
 private:
     QWidget* Titulo();
     QWidget* CrearOrden(int indice);
-    /// Runs a command as a click outside the case window does: the field in hand is left first, so that what
-    /// was typed in it counts.
-    void Ejecutar(Boton& orden);
 };
 
 } // namespace valmerix

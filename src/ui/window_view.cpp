@@ -11,6 +11,8 @@
 
 namespace valmerix {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Qt::WindowFlags Banderas(Marco marco)
@@ -64,13 +66,26 @@ void VistaVentana::Mostrar()
 {
     if (!ventana_ || sincronizando_)
         return;
-    setWindowTitle(ventana_->Caption());
+    MostrarTitulo();
     MostrarLugar();
     if (ventana_->visible() == isVisible())
         return;
+    if (ventana_->visible() && ventana_->conFoco())
+        enlazador_->MostrarFoco(); // otherwise the first widget would take it, and end the field's turn
     setVisible(ventana_->visible());
     if (isVisible())
         TomarLugar();
+}
+
+// The desktop puts its own mark where the title says; without one the title is the caption, nothing else.
+void VistaVentana::MostrarTitulo()
+{
+    const bool modificada = ventana_->modificada();
+    if (!modificada)
+        setWindowModified(false);
+    setWindowTitle(modificada ? ventana_->Caption() + u"[*]"_s : ventana_->Caption());
+    setWindowModified(modificada);
+    setAccessibleDescription(modificada ? kCambiosSinGuardar.toString() : QString());
 }
 
 void VistaVentana::PonerDelanteDe(QWidget& otra)

@@ -6,6 +6,9 @@
 
 namespace valmerix {
 
+/// What the mark of a modified window says to who cannot see it.
+inline constexpr QStringView kCambiosSinGuardar = u"Cambios sin guardar";
+
 /// What stands around a window.
 enum class Marco {
     Sistema,     ///< the desktop's own title bar
@@ -47,6 +50,7 @@ protected:
     virtual QRect LugarPosible(QRect pedido) const;
 
 private:
+    void MostrarTitulo();
     void MostrarLugar();
     void MostrarEstado();
     void TomarLugar();

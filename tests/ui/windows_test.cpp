@@ -240,7 +240,7 @@ TEST_F(Windows, ACommandOfTheToolbarLeavesTheFieldInHandFirst)
     QStringList sucesos;
     QObject::connect(&forma.control(u"BoxConst"), &Control::LostFocus, &forma,
                      [&] { sucesos += forma.texto(u"BoxConst"); });
-    Pulsar(Vista(*aplicacion.paleta()), u"Botonera(1)"_s);
+    Pulsar(Vista(*aplicacion.paleta()), u"Botonera(5)"_s);
     EXPECT_EQ(sucesos, QStringList({u"100,00"_s}));
     EXPECT_EQ(forma.conFoco(), &forma.control(u"BoxConst")) << "and comes back to it";
 }

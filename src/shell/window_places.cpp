@@ -1,0 +1,104 @@
+#include "shell/window_places.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+#include <algorithm>
+#include <utility>
+
+namespace valmerix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView kSinMemoria[] = {
+    u"Form2", u"SALIDA", u"Reinicio", u"Minimizado", u"VisorMin", u"Calculos",
+};
+constexpr int kMenor = 80; // pixels; what is smaller was never a window of ours
+constexpr qint64 kFicheroMayor = 1024 * 1024;
+
+int Visible(const QRect& lugar, const QRect& pantalla)
+{
+    const QRect comun = lugar & pantalla;
+    return comun.width() * comun.height();
+}
+
+QRect DeJson(const QJsonValue& valor)
+{
+    const QJsonArray cifras = valor.toArray();
+    return {cifras.at(0).toInt(), cifras.at(1).toInt(), cifras.at(2).toInt(), cifras.at(3).toInt()};
+}
+
+} // namespace
+
+bool LugaresVentanas::SeRecuerda(const QString& ventana)
+{
+    return std::find(std::begin(kSinMemoria), std::end(kSinMemoria), ventana) == std::end(kSinMemoria);
+}
+
+void LugaresVentanas::Leer(const QString& fichero)
+{
+    lugares_.clear();
+    cambiado_ = false;
+    QFile entrada(fichero);
+    if (entrada.size() > kFicheroMayor || !entrada.open(QIODevice::ReadOnly))
+        return;
+    const QJsonObject objeto = QJsonDocument::fromJson(entrada.readAll()).object();
+    for (auto par = objeto.begin(); par != objeto.end(); ++par) {
+        const QRect lugar = DeJson(par.value());
+        if (SeRecuerda(par.key()) && lugar.width() >= kMenor && lugar.height() >= kMenor)
+            lugares_.insert(par.key(), lugar);
+    }
+}
+
+void LugaresVentanas::Guardar(const QString& fichero)
+{
+    if (fichero.isEmpty() || !std::exchange(cambiado_, false))
+        return;
+    QJsonObject objeto;
+    for (auto par = lugares_.cbegin(); par != lugares_.cend(); ++par) {
+        const QRect& r = par.value();
+        objeto.insert(par.key(), QJsonArray{r.x(), r.y(), r.width(), r.height()});
+    }
+    QSaveFile salida(fichero);
+    if (!salida.open(QIODevice::WriteOnly))
+        return;
+    salida.write(QJsonDocument(objeto).toJson());
+    salida.commit();
+}
+
+void LugaresVentanas::Apuntar(const QString& ventana, const QRect& lugar)
+{
+    if (!SeRecuerda(ventana) || lugar.width() < kMenor || lugar.height() < kMenor)
+        return;
+    QRect& suyo = lugares_[ventana];
+    cambiado_ = cambiado_ || suyo != lugar;
+    suyo = lugar;
+}
+
+std::optional<QRect> LugaresVentanas::LugarDe(const QString& ventana, const QList<QRect>& pantallas) const
+{
+    const auto hallado = lugares_.constFind(ventana);
+    if (hallado == lugares_.constEnd())
+        return std::nullopt;
+    return AjustarAPantallas(*hallado, pantallas);
+}
+
+QRect AjustarAPantallas(QRect lugar, const QList<QRect>& pantallas)
+{
+    if (pantallas.isEmpty())
+        return lugar;
+    const QRect pantalla =
+        *std::max_element(pantallas.begin(), pantallas.end(), [&](const QRect& a, const QRect& b) {
+            return Visible(lugar, a) < Visible(lugar, b);
+        });
+    lugar.setSize(lugar.size().boundedTo(pantalla.size()));
+    lugar.moveLeft(std::clamp(lugar.x(), pantalla.x(), pantalla.x() + pantalla.width() - lugar.width()));
+    lugar.moveTop(std::clamp(lugar.y(), pantalla.y(), pantalla.y() + pantalla.height() - lugar.height()));
+    return lugar;
+}
+
+} // namespace valmerix
