@@ -99,6 +99,7 @@ void Aplicacion::NuevoCaso(int indice)
     CargarFicha();
     try {
         CrearFormulario(LetraDelBoton(indice));
+        formulario_->Enfocar(u"SSTab1");
     } catch (const std::exception&) {
         DescartarFormulario();
         throw;

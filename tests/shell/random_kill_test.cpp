@@ -33,6 +33,8 @@ protected:
         Arrancar();
         ConTasador();
         for (int n = 1; n <= 3; ++n) {
+            if (n > 1)
+                aplicacion->Reiniciar();
             aplicacion->NuevoCaso(0);
             forma().lista(u"cboNombreTasador").Elegir(0);
             Escribir(QString::number(n));
