@@ -1,6 +1,7 @@
 #include "shell/draft_keeper.h"
 
 #include <QDir>
+#include <QFile>
 #include <QMutexLocker>
 #include <QPointer>
 #include <utility>

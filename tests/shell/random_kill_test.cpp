@@ -7,6 +7,8 @@
 
 #include <QDir>
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <atomic>
+#include <new>
 #include <sys/mman.h>
 
 namespace valmerix {

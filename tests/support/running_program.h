@@ -1,9 +1,11 @@
 #pragma once
 
 #include "shell/application.h"
+#include "shell/draft_file.h"
 #include "shell/start_window.h"
 #include "shell/state_json.h"
 #include "shell/window_restoring.h"
+#include "store/query.h"
 #include "support/fake_ports.h"
 #include "support/fake_screen.h"
 #include "support/qt_printers.h"
