@@ -1,9 +1,14 @@
 #include "common/ports.h"
+#include "shell/safety_net.h"
+#include "shell/state_json.h"
+#include "shell/window_restoring.h"
 #include "valuation/case_form.h"
 
+#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
-// One keystroke in the age of the building: its event, the sentence, the recalculation, the result fields.
+// One keystroke in the age of the building: its event, the sentence, the recalculation, the result fields;
+// the same with the draft keeper on, and what the keeper does between two events every two seconds.
 
 namespace valmerix {
 
@@ -20,6 +25,7 @@ struct SinDialogos : Dialogos
     }
     bool InformarFallo(const QString& /*texto*/, const QString& /*detalle*/) override { return true; }
     std::optional<QDate> MostrarCalendario(QDate /*fecha*/) override { return {}; }
+    std::optional<QString> ElegirFichero(const QString& /*filtro*/) override { return {}; }
 };
 
 struct RelojFijo : Reloj
@@ -41,6 +47,7 @@ struct SinSistema : Sistema
     void PunteroOcupado(bool /*ocupado*/) override {}
     void DejarPintar() override {}
     void CopiarAlPortapapeles(const QString& /*texto*/) override {}
+    bool CopiarImagenAlPortapapeles(const QString& /*ruta*/) override { return false; }
     void Aplazar(int /*milisegundos*/, std::function<void()> /*tarea*/) override {}
     void TerminarProceso(int /*codigo*/) override {}
 };
@@ -105,6 +112,53 @@ void KeystrokePairDwellings(benchmark::State& estado)
     Keystroke(estado, u"BoxVPP");
 }
 
+struct PisoVigilado : Piso
+{
+    QTemporaryDir carpeta;
+    Ventana barra{u"Minimizado"_s};
+    RedSeguridad red{compartido, calculo, frases, dialogos, reloj, sistema};
+
+    PisoVigilado()
+    {
+        compartido.RutaBaseDatos = carpeta.filePath(u"valmerix.mdb"_s);
+        red.Vigilar(form, barra);
+    }
+};
+
+void KeystrokePairAgeWithDrafts(benchmark::State& estado)
+{
+    PisoVigilado piso;
+    CampoTexto& edad = piso.form.campo(u"BoxAntig");
+    constexpr int kRetroceso = 8;
+    for (auto _ : estado) {
+        edad.PulsarTecla(u'7');
+        edad.PulsarTecla(kRetroceso);
+    }
+    estado.SetItemsProcessed(2 * estado.iterations());
+}
+
+// What a keystroke may have to wait for when it comes at the worst moment.
+void DraftPicture(benchmark::State& estado)
+{
+    Piso piso;
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(ControlesEnJson(piso.form));
+        benchmark::DoNotOptimize(PresentacionEnJson(piso.form));
+        benchmark::DoNotOptimize(EstadoEnJson(piso.calculo));
+        benchmark::DoNotOptimize(FrasesEnJson(piso.frases));
+    }
+}
+
+// Picture, checksum, write and file sync; all but the first run beside her work.
+void DraftWritten(benchmark::State& estado)
+{
+    PisoVigilado piso;
+    for (auto _ : estado) {
+        piso.red.Anotar();
+        piso.red.Volcar();
+    }
+}
+
 void WindowDeclared(benchmark::State& estado)
 {
     for (auto _ : estado)
@@ -113,6 +167,9 @@ void WindowDeclared(benchmark::State& estado)
 
 BENCHMARK(KeystrokePairAge);
 BENCHMARK(KeystrokePairDwellings);
+BENCHMARK(KeystrokePairAgeWithDrafts);
+BENCHMARK(DraftPicture)->Unit(benchmark::kMicrosecond);
+BENCHMARK(DraftWritten)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(WindowDeclared);
 
 } // namespace
