@@ -247,7 +247,9 @@ TEST_F(CaminoTest, TheTabulatorVisitsEveryFieldOfAPageInTheOrderOfTheForm)
     Pulsar(*aplicacion->inicio(), u"SSCommand2(0)"_s);
     QStringList visitados;
     Traer(forma());
+    QCoreApplication::processEvents(); // the windows that have just come up settle who is in front
     widget<QWidget>(forma(), u"BoxPlaza"_s).setFocus();
+    ASSERT_EQ(forma().conFoco(), &forma().control(u"BoxPlaza"));
     for (int i = 0; i < 60 && forma().conFoco(); ++i) {
         visitados << forma().conFoco()->nombre();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
