@@ -2,22 +2,25 @@
 
 #include "controls/control.h"
 
+#include <memory>
 #include <vector>
 
 namespace valmerix {
 
+/// A leaf; its letters lie with those of all the others of its folder.
 struct NodoArbol
 {
-    QString clave;
-    QString texto;
+    QStringView clave;
+    QStringView texto;
 };
 
-/// A folder of the tree with its leaves.
+/// A folder of the tree with its leaves, which look into `letras`; copies share them.
 struct CarpetaArbol
 {
     QString clave;
     QString texto;
     std::vector<NodoArbol> hijos;
+    std::shared_ptr<char16_t[]> letras;
 };
 
 /// A tree of two levels: folders and leaves, each with a key. Built for hundreds of thousands of leaves.

@@ -5,8 +5,10 @@
 #include "store/query.h"
 
 #include <QDir>
+#include <QStringDecoder>
 #include <algorithm>
 #include <array>
+#include <memory>
 
 namespace valmerix {
 
@@ -34,23 +36,63 @@ QStringView TablaDe(const QString& letra)
     return fila == kCarpetas.end() ? QStringView() : fila->tabla;
 }
 
-std::vector<NodoArbol> Hojas(const ConjuntoResultados& casos)
+/// Writes texts one behind the other into letters that have room for them all.
+class Pluma
+{
+public:
+    explicit Pluma(char16_t* letras)
+        : fin_(letras)
+        , comienzo_(letras)
+    {
+    }
+
+    void Empezar() { comienzo_ = fin_; }
+    QStringView Escrito() const { return {comienzo_, fin_}; }
+    Pluma& operator<<(QStringView texto)
+    {
+        fin_ = std::copy(texto.utf16(), texto.utf16() + texto.size(), fin_);
+        return *this;
+    }
+    Pluma& operator<<(QUtf8StringView texto)
+    {
+        QStringDecoder lector(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+        fin_ = reinterpret_cast<char16_t*>(lector.appendToBuffer(reinterpret_cast<QChar*>(fin_),
+                                                                 QByteArrayView(texto.data(), texto.size())));
+        return *this;
+    }
+
+private:
+    char16_t* fin_;
+    const char16_t* comienzo_;
+};
+
+constexpr qsizetype kSignos = 32; // of a leaf: the number and what stands between the texts
+
+void AñadirHojas(const ConjuntoResultados& casos, CarpetaArbol& carpeta)
 {
     const int nombre = casos.Columna(u"NombreTasador");
+    const int numero = casos.Columna(u"NumeroTasacion");
     const int tipo = casos.Columna(u"Tipo");
     const int situacion = casos.Columna(u"Situacion");
     const int municipio = casos.Columna(u"Municipio");
-    std::vector<NodoArbol> hojas;
-    hojas.reserve(static_cast<size_t>(casos.RecordCount()));
+    qsizetype letras = 0; // a byte of UTF-8 never gives more than one unit
     for (qint32 fila = 1; fila <= casos.RecordCount(); ++fila) {
-        const auto texto = [&](int columna) { return QString::fromUtf8(casos.Utf8(columna, fila)); };
-        QString clave = texto(nombre);
-        clave += u'#' + QString::number(casos.Entero(u"NumeroTasacion", fila)) + u'#' + texto(tipo);
-        QString rotulo = texto(situacion);
-        rotulo += u" ("_s + texto(municipio) + u')';
-        hojas.push_back({std::move(clave), std::move(rotulo)});
+        for (const int columna : {nombre, tipo, situacion, municipio})
+            letras += casos.Utf8(columna, fila).size();
+        letras += kSignos;
     }
-    return hojas;
+    carpeta.letras = std::make_shared_for_overwrite<char16_t[]>(static_cast<size_t>(letras));
+    carpeta.hijos.reserve(static_cast<size_t>(casos.RecordCount()));
+    Pluma pluma(carpeta.letras.get());
+    for (qint32 fila = 1; fila <= casos.RecordCount(); ++fila) {
+        const auto texto = [&](int columna) { return casos.Utf8(columna, fila); };
+        pluma.Empezar();
+        pluma << texto(nombre) << u"#" << QString::number(casos.Entero(numero, fila)) << u"#" << texto(tipo);
+        const QStringView clave = pluma.Escrito();
+        pluma.Empezar();
+        pluma << texto(situacion) << u" (" << texto(municipio) << u")";
+        carpeta.hijos.push_back({clave, pluma.Escrito()});
+    }
 }
 
 } // namespace
@@ -87,10 +129,10 @@ void ArbolCasos::CargarArbol(Arbol& arbol, EstadoCompartido& compartido, const S
     compartido.RutaBaseDatos = RutaBaseDatosConfigurada(sistema);
     std::vector<CarpetaArbol> carpetas;
     for (const FilaCarpeta& fila : kCarpetas) {
-        CarpetaArbol carpeta{fila.letra.toString(), fila.texto.toString(), {}};
+        CarpetaArbol carpeta{fila.letra.toString(), fila.texto.toString(), {}, {}};
         if (const auto casos = Busqueda(compartido, carpeta.clave)) {
-            carpeta.hijos = Hojas(*casos);
-            OrdenarEspañol(carpeta.hijos, [](const NodoArbol& n) { return QStringView(n.texto); });
+            AñadirHojas(*casos, carpeta);
+            OrdenarEspañol(carpeta.hijos, [](const NodoArbol& n) { return n.texto; });
         }
         carpetas.push_back(std::move(carpeta));
     }

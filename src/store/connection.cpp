@@ -15,6 +15,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Room to sort a hundred thousand cases without a temporary file; taken only as it is needed.
+constexpr char kMemoria[] = "PRAGMA cache_size = -65536"; // KiB
+
 constexpr int kEsperaMs = 3000;
 
 SQLite::Database Abrir(const QString& ruta)
@@ -74,6 +77,7 @@ void Conexion::Preparar()
     }
     sqlite3_db_config(motor, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     RegistrarFunciones(motor);
+    base_.tryExec(kMemoria);
 }
 
 void Conexion::Fallar(int codigo, const QString& sql)

@@ -166,6 +166,12 @@ QString ConjuntoResultados::ValorRegistroGrid(qint32 fila) const
     return linea;
 }
 
+qint64 ConjuntoResultados::Entero(int columna, qint32 fila) const
+{
+    const quint32 i = Fila(fila);
+    return EnteroDe(datos_->columnas.at(static_cast<size_t>(columna)), i);
+}
+
 QUtf8StringView ConjuntoResultados::Utf8(int columna, qint32 fila) const
 {
     const quint32 i = Fila(fila);

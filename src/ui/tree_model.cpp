@@ -105,7 +105,7 @@ QVariant ModeloArbol::data(const QModelIndex& indice, int papel) const
     if (!c && !h)
         return {};
     if (papel == Qt::DisplayRole || papel == Qt::ToolTipRole)
-        return c ? c->texto : h->texto;
+        return c ? c->texto : h->texto.toString();
     if (papel == Qt::DecorationRole)
         return c ? iconoCarpeta_ : iconoElemento_;
     return {};
@@ -116,7 +116,7 @@ QString ModeloArbol::clave(const QModelIndex& indice) const
     if (const CarpetaArbol* c = carpeta(indice))
         return c->clave;
     const NodoArbol* h = hoja(indice);
-    return h ? h->clave : QString();
+    return h ? h->clave.toString() : QString();
 }
 
 VistaArbol::VistaArbol(Arbol& arbol, QWidget* padre)

@@ -36,7 +36,7 @@ protected:
     {
         QStringList textos;
         for (const NodoArbol& n : inicio.como<Arbol>(u"Arbol").carpetas()[carpeta].hijos)
-            textos << n.texto;
+            textos << n.texto.toString();
         return textos;
     }
     Temporizador& reloj(QStringView nombre) { return inicio.como<Temporizador>(nombre); }
