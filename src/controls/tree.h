@@ -20,7 +20,7 @@ struct CarpetaArbol
     QString clave;
     QString texto;
     std::vector<NodoArbol> hijos;
-    std::shared_ptr<char16_t[]> letras;
+    std::shared_ptr<char16_t[]> letras = nullptr;
 };
 
 /// A tree of two levels: folders and leaves, each with a key. Built for hundreds of thousands of leaves.

@@ -24,9 +24,9 @@ constexpr Porcentaje kPorcentajes[] = {{u"Label1", u"0 %"}, {u"Label3", u"50 %"}
 
 } // namespace
 
-Calculos::Calculos(const CasoInforme& caso, Visor& visor, Sistema& sistema, EntornoVisor& entorno)
+Calculos::Calculos(CasoInforme caso, Visor& visor, Sistema& sistema, EntornoVisor& entorno)
     : Ventana(u"Calculos"_s, u"Redactando el informe"_s)
-    , caso_(caso)
+    , caso_(std::move(caso))
     , visor_(visor)
     , sistema_(sistema)
     , entorno_(entorno)

@@ -14,7 +14,7 @@ class Calculos : public Ventana
 
 public:
     /// All that is handed in outlives this window.
-    Calculos(const CasoInforme& caso, Visor& visor, Sistema& sistema, EntornoVisor& entorno);
+    Calculos(CasoInforme caso, Visor& visor, Sistema& sistema, EntornoVisor& entorno);
 
     /// "Informe" or "Certificado"; the latter gets no bold and no alignment.
     QString TipoDocumento;

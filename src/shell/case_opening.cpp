@@ -52,6 +52,7 @@ QString LetraDelBoton(int indice)
 std::vector<bool> TiposHechos()
 {
     std::vector<bool> hechos;
+    hechos.reserve(kTipos.size());
     for (const FilaTipo& fila : kTipos)
         hechos.push_back(DescripcionDe(fila.letra.front()) != nullptr);
     return hechos;

@@ -334,8 +334,12 @@ TEST(Tree, AHundredThousandLeavesOpenAtOnce)
     Ventana ventana(u"Arboleda"_s);
     auto& arbol = ventana.Añadir<Arbol>(u"Arbol"_s);
     CarpetaArbol pisos{u"P"_s, u"Pisos"_s, {}};
-    for (int i = 0; i < 100000; ++i)
-        pisos.hijos.push_back({u"Ana#%1#P"_s.arg(i), u"Calle Mayor, %1 (Teruel)"_s.arg(i)});
+    QStringList letras;
+    letras.reserve(200000);
+    for (int i = 0; i < 100000; ++i) {
+        letras << u"Ana#%1#P"_s.arg(i) << u"Calle Mayor, %1 (Teruel)"_s.arg(i);
+        pisos.hijos.push_back({letras[2 * i], letras[2 * i + 1]});
+    }
     VistaArbol vista(arbol, nullptr);
     vista.resize(300, 400);
     vista.show();
