@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize kTamañoCaso(1080, 740);
+constexpr QSize kTamañoCaso(1100, 740);
 constexpr int kAnchoPaleta = 160;
 
 /// Centred horizontally together with the toolbar at its right edge.

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize kTamaño(1104, 740);
+constexpr QSize kTamaño(1100, 740);
 constexpr int kAltoPagina = 628; // what a page shows without scrolling
 constexpr int kColumnasMayor = 3;
 

@@ -26,6 +26,7 @@ protected:
         : formulario(*GetParam(), entorno.servicios)
     {
         formulario.IniciarCampos();
+        formulario.ActualizarMoneda(u"€"_s);
         formulario.setVisible(true);
         vista = std::make_unique<VistaCaso>(formulario);
         vista->Mostrar();
