@@ -94,12 +94,7 @@ stage_fuzz() {
     done <"$log/fuzzers.txt"
 }
 
-# Not all sources have come out clean yet: what is found is shown and does not fail the run until they have.
-stage_tidy() {
-    build dev || return
-    timeout 1200 scripts/tidy.py build/dev "$jobs" >"$log/clang-tidy.txt" 2>&1
-    echo "clang-tidy: $(grep -c 'error:' "$log/clang-tidy.txt") findings; $(tail -n 1 "$log/clang-tidy.txt")"
-}
+stage_tidy() { build dev && check "clang-tidy" scripts/tidy.py build/dev "$jobs"; }
 
 # short runs: they show that the benchmarks work and give the ratios to their baselines, not exact times
 stage_bench() {
