@@ -9,6 +9,7 @@ struct AnchoCampo
 {
     QStringView nombre;
     int letras = 0;
+    bool cifra = false; ///< a surface, an amount or a coefficient: aligned to the right
 };
 
 inline constexpr AnchoCampo kAnchos[] = {
@@ -36,22 +37,22 @@ inline constexpr AnchoCampo kAnchos[] = {
     {u"BoxDormitorios", 4},
     {u"BoxOtros", 4},
     {u"BoxOtros2", 4},
-    {u"BoxUtil", 10},
-    {u"BoxConst", 10},
-    {u"BoxK", 14},
-    {u"BoxProvisional", 14},
-    {u"BoxSolar", 14},
-    {u"BoxRepercusion", 14},
-    {u"BoxSobreRasante", 14},
-    {u"BoxCc", 14},
-    {u"BoxReposicion", 14},
-    {u"BoxTrastero", 13},
-    {u"BoxGaraje", 13},
-    {u"Text9", 13},
-    {u"BoxVr", 16},
-    {u"BoxVivienda", 16},
-    {u"BoxAnexos", 16},
-    {u"BoxTotal", 16},
+    {u"BoxUtil", 10, true},
+    {u"BoxConst", 10, true},
+    {u"BoxK", 14, true},
+    {u"BoxProvisional", 14, true},
+    {u"BoxSolar", 14, true},
+    {u"BoxRepercusion", 14, true},
+    {u"BoxSobreRasante", 14, true},
+    {u"BoxCc", 14, true},
+    {u"BoxReposicion", 14, true},
+    {u"BoxTrastero", 13, true},
+    {u"BoxGaraje", 13, true},
+    {u"Text9", 13, true},
+    {u"BoxVr", 16, true},
+    {u"BoxVivienda", 16, true},
+    {u"BoxAnexos", 16, true},
+    {u"BoxTotal", 16, true},
     {u"txtCodigoPostal", 8},
     {u"txtFechaDesde", 11},
     {u"txtFechaHasta", 11},
@@ -63,14 +64,14 @@ inline constexpr AnchoCampo kAnchos[] = {
     {u"txtEdadHasta", 5},
 };
 
-/// 0 for a field that takes all the room.
-constexpr int LetrasDe(QStringView nombre)
+/// 0 letters for a field that takes all the room.
+constexpr AnchoCampo AnchoDe(QStringView nombre)
 {
     for (const AnchoCampo& ancho : kAnchos) {
         if (ancho.nombre == nombre)
-            return ancho.letras;
+            return ancho;
     }
-    return 0;
+    return {nombre};
 }
 
 } // namespace valmerix

@@ -86,7 +86,7 @@ QString NombreLegible(const ControlForma& fila)
 
 void FijarAncho(QWidget& widget, QStringView nombre)
 {
-    const int letras = LetrasDe(nombre);
+    const int letras = AnchoDe(nombre).letras;
     if (letras > 0)
         widget.setFixedWidth(widget.fontMetrics().horizontalAdvance(u'0') * letras + kHolguraCampo);
 }
@@ -95,7 +95,8 @@ void FijarAncho(QWidget& widget, QStringView nombre)
 void PonerPista(QWidget& widget, const ControlForma& fila, QStringView pista)
 {
     auto* linea = qobject_cast<QLineEdit*>(&widget);
-    if (linea && fila.titulo.isEmpty() && fila.clase == ClaseControl::Texto && LetrasDe(fila.nombre) == 0)
+    if (linea && fila.titulo.isEmpty() && fila.clase == ClaseControl::Texto &&
+        AnchoDe(fila.nombre).letras == 0)
         linea->setPlaceholderText(pista.toString());
 }
 
@@ -200,7 +201,7 @@ void ConstructorFormulario::Resto(Filas fila, QHBoxLayout& caja, QWidget* panel)
         if (EsCampo(otro) && !otro.titulo.isEmpty())
             caja.addWidget(enlazador_.CrearEtiqueta(otro.nombre, panel));
         caja.addWidget(widget);
-        seExtiende = seExtiende || (EsCampo(otro) && LetrasDe(otro.nombre) == 0);
+        seExtiende = seExtiende || (EsCampo(otro) && AnchoDe(otro.nombre).letras == 0);
     }
     if (!seExtiende)
         caja.addStretch();
@@ -255,7 +256,7 @@ QWidget* ConstructorFormulario::Widget(const ControlForma& fila, QWidget* panel)
         FijarAncho(*widget, fila.nombre);
     if (fila.clase == ClaseControl::Rejilla)
         widget->setMinimumHeight(kAltoTabla);
-    if (fila.clase == ClaseControl::Resultado || LetrasDe(fila.nombre) > 11) {
+    if (AnchoDe(fila.nombre).cifra) {
         if (auto* linea = qobject_cast<QLineEdit*>(widget))
             linea->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }

@@ -3,6 +3,7 @@
 #include "ui/picture_reading.h"
 
 #include <QEventLoop>
+#include <QCursor>
 #include <QGuiApplication>
 #include <QPromise>
 #include <QThreadPool>

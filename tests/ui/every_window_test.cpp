@@ -53,7 +53,9 @@ protected:
     EveryWindow() { AplicarTema(dynamic_cast<QApplication&>(*QCoreApplication::instance()), Tema::Oscuro); }
     ~EveryWindow() override
     {
-        AplicarTema(dynamic_cast<QApplication&>(*QCoreApplication::instance()), Tema::Claro);
+        const bool oscuro = qEnvironmentVariableIsSet("VALMERIX_OSCURO");
+        AplicarTema(dynamic_cast<QApplication&>(*QCoreApplication::instance()),
+                    oscuro ? Tema::Oscuro : Tema::Claro);
     }
     /// Opens a modal window, looks at it and closes it by that button.
     void Modal(const std::function<void()>& abrir, const QString& cierre)
