@@ -1,5 +1,6 @@
 #include "store/backup.h"
 
+#include "store/file_format.h"
 #include "store/query.h"
 
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <cstdio>
+#include <sqlite3.h>
 
 namespace valmerix {
 
@@ -23,13 +25,16 @@ void Volcar(const std::string& origen, const std::string& provisional)
     SQLite::Database copia(provisional, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
     copia.exec("PRAGMA synchronous = FULL");
     SQLite::Backup volcado(copia, fuente);
-    volcado.executeStep(-1);
+    if (volcado.executeStep(-1) != SQLITE_DONE) // a file that another program holds is no exception here
+        throw ErrorAlmacen(u"Otro programa tiene ocupada la base de datos."_s);
 }
 
 bool EstaIntegra(const std::string& fichero)
 {
     SQLite::Database copia(fichero, SQLite::OPEN_READONLY);
-    return copia.execAndGet("PRAGMA integrity_check").getString() == "ok";
+    // An empty file would be found sound too.
+    return copia.execAndGet("PRAGMA application_id").getInt64() == kIdentidadFichero &&
+           copia.execAndGet("PRAGMA integrity_check").getString() == "ok";
 }
 
 } // namespace

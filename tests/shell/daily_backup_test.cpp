@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <sqlite3.h>
 
 namespace valmerix {
 namespace {
@@ -78,6 +79,18 @@ TEST_F(CopiaDiariaTest, ADamagedDatabaseGivesNoCopy)
     fichero.resize(fichero.size() / 2);
     fichero.close();
     copia.AntesDeEscribir();
+    EXPECT_TRUE(Copias().isEmpty());
+    EXPECT_EQ(entorno.dialogos.mensajes.size(), 1u);
+}
+
+// A file that is held gives no rows and no error: the copy would be an empty file, which is sound too.
+TEST_F(CopiaDiariaTest, ADatabaseThatAnotherProgramHoldsGivesNoCopy)
+{
+    sqlite3* otro = nullptr;
+    sqlite3_open(base.ruta().toUtf8().constData(), &otro);
+    ASSERT_EQ(sqlite3_exec(otro, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+    copia.AntesDeEscribir();
+    sqlite3_close(otro);
     EXPECT_TRUE(Copias().isEmpty());
     EXPECT_EQ(entorno.dialogos.mensajes.size(), 1u);
 }
