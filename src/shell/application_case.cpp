@@ -24,8 +24,8 @@ constexpr int kAnchoPaleta = 160;
 QRect LugarDelCaso(const QRect& area)
 {
     const QSize ventana = kTamañoCaso.boundedTo(area.size());
-    return {{std::max(0, (area.width() - ventana.width() - kAnchoPaleta) / 2),
-             std::max(0, (area.height() - ventana.height()) / 2)},
+    return {area.topLeft() + QPoint(std::max(0, (area.width() - ventana.width() - kAnchoPaleta) / 2),
+                                    std::max(0, (area.height() - ventana.height()) / 2)),
             ventana};
 }
 
@@ -88,8 +88,10 @@ bool Aplicacion::AbrirCaso(const QString& clave)
 void Aplicacion::CopiarCaso(const QString& clave)
 {
     // On a folder there is nothing to copy, and the start window is the only one open.
-    if (AbrirCaso(clave))
-        compartido_.NumeroTasacionActual = 0;
+    if (!AbrirCaso(clave))
+        return;
+    compartido_.NumeroTasacionActual = 0;
+    red_.Anotar(); // stored nowhere yet
 }
 
 void Aplicacion::NuevoCaso(int indice)

@@ -30,7 +30,7 @@ namespace FicheroBorrador {
 
 /// The folder of the drafts of a database, beside it.
 QString carpeta(const QString& rutaBaseDatos);
-/// The drafts that lie in a folder, whole or not.
+/// The names of the drafts that lie in a folder, whole or not.
 QStringList EnCarpeta(const QString& carpeta);
 /// A name that no draft of the folder has.
 QString NombreLibre(const QString& carpeta);

@@ -85,7 +85,9 @@ void GuardaBorradores::Tic()
 
 void GuardaBorradores::Volcar()
 {
-    if (porEscribir_)
+    hilo_.waitForDone();
+    ContarFallo();
+    if (porEscribir_ || fallido_) // what has failed is tried once more before the program ends
         Escribir();
     hilo_.waitForDone();
     ContarFallo();
@@ -95,6 +97,11 @@ void GuardaBorradores::Quitar()
 {
     porEscribir_ = false;
     hilo_.waitForDone();
+    {
+        const QMutexLocker guarda(&resultado_->cerrojo);
+        resultado_->fallo.clear();
+    }
+    fallido_ = false;
     if (!fichero_.isEmpty())
         QFile::remove(std::exchange(fichero_, {}));
 }
@@ -102,6 +109,7 @@ void GuardaBorradores::Quitar()
 void GuardaBorradores::Escribir()
 {
     porEscribir_ = false;
+    fallido_ = false;
     if (fichero_.isEmpty())
         fichero_ = FicheroBorrador::NombreLibre(carpeta_);
     hilo_.start([borrador = retrato_(), fichero = fichero_, resultado = resultado_] {
@@ -118,7 +126,10 @@ void GuardaBorradores::ContarFallo()
         const QMutexLocker guarda(&resultado_->cerrojo);
         fallo = std::exchange(resultado_->fallo, {});
     }
-    if (fallo.isEmpty() || std::exchange(avisado_, true))
+    if (fallo.isEmpty())
+        return;
+    fallido_ = true;
+    if (std::exchange(avisado_, true))
         return;
     dialogos_.Mensaje(
         u"No se ha podido guardar el borrador del trabajo en curso. Se sigue trabajando sin él; "

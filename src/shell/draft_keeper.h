@@ -59,7 +59,8 @@ private:
     Retrato retrato_;
     std::shared_ptr<Resultado> resultado_ = std::make_shared<Resultado>();
     bool porEscribir_ = false;
-    bool citado_ = false; ///< the next tick is on its way
+    bool fallido_ = false; ///< the last writing, with nothing noted since
+    bool citado_ = false;  ///< the next tick is on its way
     bool avisado_ = false;
     QThreadPool hilo_; // last: it ends first
 };

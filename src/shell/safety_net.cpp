@@ -9,6 +9,7 @@
 #include "store/query.h"
 #include "valuation/case_form.h"
 
+#include <QFile>
 #include <QSet>
 #include <QSignalBlocker>
 
@@ -191,7 +192,24 @@ void RedSeguridad::Anotar()
 void RedSeguridad::AlGuardar()
 {
     borradores_.Quitar();
+    QuitarAnteriores();
     Marcar(false);
+}
+
+// What an earlier day left unsaved of the same case is older than what has just been stored.
+void RedSeguridad::QuitarAnteriores() const
+{
+    if (!caso_ || compartido_.NumeroTasacionActual == 0)
+        return;
+    const QString carpeta = FicheroBorrador::carpeta(compartido_.RutaBaseDatos);
+    for (const QString& nombre : FicheroBorrador::EnCarpeta(carpeta)) {
+        const QString fichero = carpeta + u'/' + nombre;
+        const std::optional<Borrador> borrador = FicheroBorrador::Leer(fichero);
+        if (borrador && borrador->letra == caso_->nombre().left(1) &&
+            borrador->NumeroTasacion == compartido_.NumeroTasacionActual &&
+            borrador->texto(u"cboNombreTasador") == caso_->texto(u"cboNombreTasador"))
+            QFile::remove(fichero);
+    }
 }
 
 void RedSeguridad::Abandonar()

@@ -49,6 +49,7 @@ public:
 private:
     void Conectar(const Formulario& formulario);
     void Marcar(bool pendiente);
+    void QuitarAnteriores() const;
     void AlCambiar(bool seGuarda);
     void AlGuardar();
     Borrador Retratar() const;

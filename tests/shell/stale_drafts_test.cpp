@@ -1,0 +1,75 @@
+#include "support/running_program.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace valmerix {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class BorradoresViejos : public testing::Test, protected ProgramaDePrueba
+{
+protected:
+    void UnPisoGuardado()
+    {
+        Arrancar();
+        ConTasador();
+        aplicacion->NuevoCaso(0);
+        forma().lista(u"cboNombreTasador").Elegir(0);
+        aplicacion->EjecutarOrden(OrdenPaleta::Guardar);
+    }
+};
+
+TEST_F(BorradoresViejos, ASaveDropsEveryDraftOfItsCaseAndOfNoOther)
+{
+    UnPisoGuardado();
+    Teclear(u"BoxSit", u"Ayer"_s);
+    Acabar();
+    Arrancar();
+    aplicacion->NuevoCaso(1);
+    Teclear(u"BoxSit", u"Otra"_s);
+    Acabar();
+    Arrancar();
+    aplicacion->AbrirCaso(u"Rosa Peña#5#P"_s);
+    Teclear(u"BoxSit", u"Hoy"_s);
+    PasaElTiempo();
+    EXPECT_EQ(EnDisco().size(), 3);
+    dialogos.respuestas = {true};
+    aplicacion->EjecutarOrden(OrdenPaleta::Guardar);
+    EXPECT_EQ(EnDisco().size(), 1);
+    EXPECT_EQ(Leer(u"SELECT Situacion FROM Viviendas"_s).Texto(u"Situacion"), u"Hoy"_s);
+    Acabar();
+    Arrancar();
+    EXPECT_TRUE(recuperar().ToolTip().startsWith(u"Apartamento, Otra,"_s))
+        << "yesterday's text is not offered";
+}
+
+TEST_F(BorradoresViejos, ACopyIsUnsavedWorkFromTheStart)
+{
+    UnPisoGuardado();
+    Acabar();
+    Arrancar();
+    aplicacion->CopiarCaso(u"Rosa Peña#5#P"_s);
+    EXPECT_TRUE(forma().modificada());
+    EXPECT_EQ(aplicacion->compartido().NumeroTasacionActual, 0);
+}
+
+TEST_F(BorradoresViejos, ADraftThatCouldNotBeWrittenIsTriedAgainAtTheEnd)
+{
+    UnPisoGuardado();
+    QFile estorbo(QFileInfo(aplicacion->compartido().RutaBaseDatos).path() + u"/borradores"_s);
+    ASSERT_TRUE(estorbo.open(QIODevice::WriteOnly)); // a file where the folder should be
+    estorbo.close();
+    dialogos.mensajes.clear();
+    Teclear(u"BoxSit", u"Lo último"_s);
+    PasaElTiempo();
+    PasaElTiempo();
+    EXPECT_EQ(dialogos.mensajes.size(), 1u) << "told once";
+    ASSERT_TRUE(estorbo.remove());
+    Acabar();
+    EXPECT_EQ(EnDisco().size(), 1);
+}
+
+} // namespace
+} // namespace valmerix
