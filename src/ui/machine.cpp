@@ -24,7 +24,7 @@ QString CarpetaSegunElPuesto()
 {
     const QString usuario =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/valmerix"_s;
-    const QString carpeta = CarpetaDelPrograma(QCoreApplication::applicationDirPath(), usuario);
+    QString carpeta = CarpetaDelPrograma(QCoreApplication::applicationDirPath(), usuario);
     QDir().mkpath(carpeta);
     return carpeta;
 }

@@ -102,13 +102,14 @@ void VentanaPrevia::Imprimir()
     const bool seguido = ConAvance(u"Imprimiendo…"_s, [&](const Avance& avance) {
         impreso = ImprimirPaginas(documento_, impresora, vista_->paginaActual(), avance);
     });
-    if (!seguido)
+    if (!seguido) {
         impresora.abort();
-    else if (!impreso)
+    } else if (!impreso) {
         dialogos_.Mensaje(
             u"No se ha podido imprimir el documento. Compruebe que la impresora está encendida y "
             "conectada"_s,
             u"Aviso"_s, IconoMensaje::Aviso);
+    }
 }
 
 void VentanaPrevia::GuardarComoPdf()

@@ -63,7 +63,7 @@ QPalette PaletaDelTema(Tema tema)
 QColor Mezclar(const QColor& a, const QColor& b, qreal parteDeB)
 {
     const auto mezcla = [&](int x, int y) { return qRound(x * (1 - parteDeB) + y * parteDeB); };
-    return QColor(mezcla(a.red(), b.red()), mezcla(a.green(), b.green()), mezcla(a.blue(), b.blue()));
+    return {mezcla(a.red(), b.red()), mezcla(a.green(), b.green()), mezcla(a.blue(), b.blue())};
 }
 
 } // namespace
