@@ -128,8 +128,9 @@ QString Ventana::Indice(QStringView nombre, int i)
 void Centrar(Ventana& ventana, const Pantalla& pantalla)
 {
     QRect lugar = ventana.lugar();
-    lugar.moveTopLeft(
-        {(pantalla.area().width() - lugar.width()) / 2, (pantalla.area().height() - lugar.height()) / 2});
+    const QRect area = pantalla.area();
+    lugar.moveTopLeft(area.topLeft() +
+                      QPoint((area.width() - lugar.width()) / 2, (area.height() - lugar.height()) / 2));
     ventana.Mover(lugar);
 }
 

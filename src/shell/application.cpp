@@ -228,7 +228,12 @@ void Aplicacion::Guardar()
 void Aplicacion::Reiniciar()
 {
     Retirar(paleta_);
-    Retirar(formulario_);
+    try {
+        Retirar(formulario_);
+    } catch (const std::exception&) {
+        formulario_->CargaPaleta(); // the case stays, and its toolbar with it
+        throw;
+    }
     red_.Abandonar();
     Retirar(minimizado_);
     CerrarVisor();

@@ -8,6 +8,7 @@
 #include "shell/manual.h"
 #include "valuation/case_form.h"
 
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <stdexcept>
 
@@ -102,6 +103,8 @@ void Aplicacion::EjecutarExtension()
     try {
         Iniciar(*extension.componente);
     } catch (const std::exception& fallo) {
+        configuracion_.reset(); // half filled
+        CerrarVisor();
         // What was thrown may be of the module's own making: only its words leave this place.
         throw std::runtime_error(
             u"El módulo de extensión ha fallado: %1"_s.arg(QString::fromUtf8(fallo.what())).toStdString());
@@ -114,7 +117,7 @@ void Aplicacion::Iniciar(clsVMXtension& extension)
         std::make_unique<valmerix::Visor>(compartido_, opciones_, puertos_.dialogos, puertos_.sistema, *this);
     if (!configuracion_)
         configuracion_ = CrearConfiguracion();
-    const valmerix::Visor* suyo = visor_.get();
+    const QPointer<valmerix::Visor> suyo(visor_.get());
     VentanaParaExtension paleta(*paleta_, puertos_.pantalla);
     VentanaParaExtension visor(*visor_, puertos_.pantalla);
     VentanaParaExtension formulario(*formulario_, puertos_.pantalla);
@@ -125,7 +128,7 @@ void Aplicacion::Iniciar(clsVMXtension& extension)
     extension.Iniciar(paleta, Visor, FormularioActual, Opciones, puertos_.sistema.carpetaPrograma());
     if (!Opciones)
         configuracion_.reset();
-    if (visor_.get() != suyo)
+    if (!suyo || visor_.get() != suyo)
         return; // one of the toolbar's commands has drafted a report of its own
     if (!Visor)
         CerrarVisor();

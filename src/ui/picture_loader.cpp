@@ -2,13 +2,14 @@
 
 #include "ui/picture_reading.h"
 
-#include <QEventLoop>
 #include <QCursor>
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QPromise>
 #include <QThreadPool>
 #include <QTimer>
 #include <memory>
+#include <new>
 #include <utility>
 
 namespace valmerix {
@@ -76,7 +77,11 @@ void LectorImagenes::Empezar(const Pedido& pedido)
     promesa->start();
     vigia_.setFuture(promesa->future());
     QThreadPool::globalInstance()->start([promesa, pedido] {
-        promesa->addResult(LeerImagen(pedido.ruta, pedido.caja));
+        try {
+            promesa->addResult(LeerImagen(pedido.ruta, pedido.caja));
+        } catch (const std::bad_alloc&) {
+            promesa->addResult(QImage()); // shown as a picture that cannot be read
+        }
         promesa->finish();
     });
 }

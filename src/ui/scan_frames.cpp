@@ -46,7 +46,10 @@ const uchar* Linea(const CuadroEscaneado& cuadro, int y)
 bool EsValido(const CuadroEscaneado& cuadro)
 {
     const SANE_Parameters& m = cuadro.medidas;
-    const qint64 bits = qint64{m.pixels_per_line} * CanalesDe(cuadro) * m.depth;
+    // Lines of one bit hold whole bytes of each channel in turn.
+    const qint64 porCanal =
+        m.depth == 1 ? (qint64{m.pixels_per_line} + 7) / 8 * 8 : qint64{m.pixels_per_line} * m.depth;
+    const qint64 bits = porCanal * CanalesDe(cuadro);
     return m.pixels_per_line > 0 && (m.depth == 1 || m.depth == 8 || m.depth == 16) &&
            qint64{m.bytes_per_line} * 8 >= bits && cuadro.lineas() > 0;
 }

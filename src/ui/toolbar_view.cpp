@@ -1,5 +1,6 @@
 #include "ui/toolbar_view.h"
 
+#include "shell/window_places.h"
 #include "ui/caption_bar.h"
 #include "ui/icons.h"
 #include "ui/kind_colours.h"
@@ -7,8 +8,10 @@
 #include "ui/window_drag.h"
 
 #include <QBoxLayout>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPainter>
+#include <QScreen>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -104,6 +107,14 @@ VistaPaleta::VistaPaleta(Ventana& ventana)
             todo->addWidget(CrearOrden(orden));
     }
     todo->addStretch();
+}
+
+QRect VistaPaleta::LugarPosible(QRect pedido) const
+{
+    QList<QRect> pantallas;
+    for (const QScreen* pantalla : QGuiApplication::screens())
+        pantallas << pantalla->availableGeometry();
+    return AjustarAPantallas(VistaVentana::LugarPosible(pedido), pantallas);
 }
 
 QWidget* VistaPaleta::Titulo()

@@ -14,6 +14,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* evento) override;
+    /// At the form's edge, as far as there is room: never where she cannot see it.
+    QRect LugarPosible(QRect pedido) const override;
 
 private:
     QWidget* Titulo();
