@@ -3,7 +3,6 @@
 #include "common/spanish_text.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace valmerix {
 
@@ -55,7 +54,8 @@ size_t Buscar(std::string_view tramo, std::string_view texto, size_t desde)
 bool Acaba(std::string_view tramo, std::string_view texto, size_t desde)
 {
     size_t pos = texto.size();
-    for (const char c : tramo | std::views::reverse) {
+    for (size_t i = tramo.size(); i-- > 0;) {
+        const char c = tramo[i];
         if (pos <= desde || (c != kUno && texto[pos - 1] != c))
             return false;
         --pos;

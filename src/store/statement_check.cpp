@@ -4,7 +4,6 @@
 #include "store/sql_tokens.h"
 
 #include <array>
-#include <ranges>
 
 namespace valmerix {
 
@@ -81,8 +80,8 @@ size_t BuscarPareja(const QString& sql, std::string_view utf8, const std::vector
 
 void AñadirOrdenEspañol(std::string& utf8, const std::vector<size_t>& finales)
 {
-    for (const size_t fin : finales | std::views::reverse)
-        utf8.insert(fin, " COLLATE ESPANOL");
+    for (size_t i = finales.size(); i-- > 0;)
+        utf8.insert(finales[i], " COLLATE ESPANOL");
 }
 
 bool CierraTermino(const Ficha& ficha)
