@@ -56,8 +56,9 @@ TEST_F(ExtensionModule, AFileThatIsNoModuleIsToldWithoutACrash)
     QFile bueno(Modulo(u"sample_extension"_s));
     ASSERT_TRUE(bueno.open(QIODevice::ReadOnly));
     const QByteArray entero = bueno.readAll();
-    for (const QByteArray& bytes : {QByteArray(), QByteArray("texto"), entero.left(64),
-                                    entero.left(entero.size() / 2), QByteArray(5000, '\0')}) {
+    for (const QByteArray& bytes :
+         {QByteArray(), QByteArray("texto"), entero.left(64), entero.left(entero.size() / 2),
+          entero.chopped(1), QByteArray(5000, '\0')}) {
         Escribir(bytes);
         const ExtensionCargada rota = cargador.Crear(carpeta.path());
         EXPECT_EQ(rota.componente, nullptr) << bytes.size();
