@@ -3,17 +3,15 @@
 #include "shell/application.h"
 #include "shell/start_window.h"
 #include "store/query.h"
-#include "support/fake_ports.h"
-#include "support/fake_screen.h"
+#include "support/test_ports.h"
 #include "valuation/case_form.h"
 
-#include <QTemporaryDir>
 #include <optional>
 
 namespace valmerix {
 
 /// The whole program on ports that record, its store in a folder of its own.
-class AplicacionTest : public testing::Test
+class AplicacionTest : public testing::Test, protected PuertosDePrueba
 {
 protected:
     AplicacionTest() { sistema.carpeta = carpeta.path(); }
@@ -65,13 +63,6 @@ protected:
         aplicacion->EjecutarOrden(OrdenPaleta::Guardar);
     }
 
-    QTemporaryDir carpeta;
-    FakeDialogos dialogos;
-    FakeReloj reloj;
-    FakeSistema sistema;
-    FakePantalla pantalla;
-    FakeCaptura captura;
-    FakeImpresion impresion;
     std::optional<Aplicacion> aplicacion;
 };
 

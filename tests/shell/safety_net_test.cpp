@@ -354,34 +354,6 @@ TEST_F(RedTest, AnotherCaseLeavesTheOlderDraftForLater)
     EXPECT_TRUE(recuperar().Visible());
 }
 
-TEST_F(RedTest, AStoredCaseThatIsGoneComesBackAsANewOne)
-{
-    Abierto();
-    Guardar();
-    Teclear(u"BoxSit", u"Calle Mayor, 5"_s);
-    Acabar();
-    Ejecutar(u"DELETE FROM Viviendas"_s);
-    Arrancar();
-    recuperar().Pulsar();
-    EXPECT_EQ(aplicacion->compartido().NumeroTasacionActual, 0);
-    aplicacion->EjecutarOrden(OrdenPaleta::Guardar);
-    EXPECT_EQ(Leer(u"SELECT Situacion FROM Viviendas"_s).Texto(u"Situacion"), u"Calle Mayor, 5"_s);
-}
-
-TEST_F(RedTest, AValuerWhoIsGoneHasToBeChosenAgain)
-{
-    Abierto();
-    Guardar();
-    Teclear(u"BoxSit", u"Calle Mayor, 5"_s);
-    Acabar();
-    Ejecutar(u"UPDATE Tasadores SET Nombre = 'Otra'"_s);
-    Arrancar();
-    recuperar().Pulsar();
-    EXPECT_EQ(forma().texto(u"cboNombreTasador"), QString());
-    EXPECT_EQ(aplicacion->compartido().NumeroTasacionActual, 0);
-    EXPECT_EQ(forma().texto(u"BoxSit"), u"Calle Mayor, 5"_s);
-}
-
 TEST_F(RedTest, ADraftThatVanishesMeanwhileIsToldAndTheStartWindowStays)
 {
     Abierto();

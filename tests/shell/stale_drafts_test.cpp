@@ -71,5 +71,31 @@ TEST_F(BorradoresViejos, ADraftThatCouldNotBeWrittenIsTriedAgainAtTheEnd)
     EXPECT_EQ(EnDisco().size(), 1);
 }
 
+TEST_F(BorradoresViejos, AStoredCaseThatIsGoneComesBackAsANewOne)
+{
+    UnPisoGuardado();
+    Teclear(u"BoxSit", u"Calle Mayor, 5"_s);
+    Acabar();
+    Ejecutar(u"DELETE FROM Viviendas"_s);
+    Arrancar();
+    recuperar().Pulsar();
+    EXPECT_EQ(aplicacion->compartido().NumeroTasacionActual, 0);
+    aplicacion->EjecutarOrden(OrdenPaleta::Guardar);
+    EXPECT_EQ(Leer(u"SELECT Situacion FROM Viviendas"_s).Texto(u"Situacion"), u"Calle Mayor, 5"_s);
+}
+
+TEST_F(BorradoresViejos, AValuerWhoIsGoneHasToBeChosenAgain)
+{
+    UnPisoGuardado();
+    Teclear(u"BoxSit", u"Calle Mayor, 5"_s);
+    Acabar();
+    Ejecutar(u"UPDATE Tasadores SET Nombre = 'Otra'"_s);
+    Arrancar();
+    recuperar().Pulsar();
+    EXPECT_EQ(forma().texto(u"cboNombreTasador"), QString());
+    EXPECT_EQ(aplicacion->compartido().NumeroTasacionActual, 0);
+    EXPECT_EQ(forma().texto(u"BoxSit"), u"Calle Mayor, 5"_s);
+}
+
 } // namespace
 } // namespace valmerix

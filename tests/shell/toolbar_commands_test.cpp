@@ -3,10 +3,9 @@
 #include "report/viewer.h"
 #include "shell/application.h"
 #include "shell/start_window.h"
-#include "support/fake_ports.h"
-#include "support/fake_screen.h"
 #include "support/manual_sample.h"
 #include "support/test_database.h"
+#include "support/test_ports.h"
 #include "valuation/case_form.h"
 
 #include <functional>
@@ -60,7 +59,7 @@ public:
     }
 };
 
-class ToolbarCommands : public testing::Test
+class ToolbarCommands : public testing::Test, protected PuertosDePrueba
 {
 protected:
     ToolbarCommands()
@@ -76,13 +75,6 @@ protected:
         u"No se ha encontrado ningún módulo de extensión para Valmerix cargado. Si dispone de un kit de "
         u"extensión debe instalarlo para para disponer de dicha ampliación."_s;
 
-    QTemporaryDir carpeta;
-    FakeDialogos dialogos;
-    FakeReloj reloj;
-    FakeSistema sistema;
-    FakePantalla pantalla;
-    FakeCaptura captura;
-    FakeImpresion impresion;
     FakeAyuda ayuda;
     FakeCargador cargador;
     Aplicacion aplicacion{{dialogos, reloj, sistema, pantalla, captura, impresion, &ayuda, &cargador}};

@@ -6,14 +6,12 @@
 #include "shell/state_json.h"
 #include "shell/window_restoring.h"
 #include "store/query.h"
-#include "support/fake_ports.h"
-#include "support/fake_screen.h"
 #include "support/qt_printers.h"
+#include "support/test_ports.h"
 #include "valuation/case_form.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QThread>
 #include <map>
 #include <optional>
@@ -21,7 +19,7 @@
 namespace valmerix {
 
 /// The whole program over a folder of its own, without a screen, to be started and ended at will.
-class ProgramaDePrueba
+class ProgramaDePrueba : public PuertosDePrueba
 {
 public:
     ProgramaDePrueba() { sistema.carpeta = carpeta.path(); }
@@ -111,13 +109,6 @@ public:
                 {QStringLiteral("numero"), aplicacion->compartido().NumeroTasacionActual}};
     }
 
-    QTemporaryDir carpeta;
-    FakeDialogos dialogos;
-    FakeReloj reloj;
-    FakeSistema sistema;
-    FakePantalla pantalla;
-    FakeCaptura captura;
-    FakeImpresion impresion;
     std::optional<Aplicacion> aplicacion;
 };
 
