@@ -3,10 +3,29 @@
 #include "ui/views.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QEventLoop>
 #include <QScreen>
 
 namespace valmerix {
+
+namespace {
+
+/// Deletes a view that is done with: not at once, since a window often closes in the middle of a click on one
+/// of its own buttons, and not under a dialog that stands over it, whose caller still waits for the answer.
+void BorrarMasTarde(VistaVentana* vista)
+{
+    for (const QDialog* dialogo : vista->findChildren<QDialog*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (!dialogo->isVisible())
+            continue;
+        QObject::connect(
+            dialogo, &QObject::destroyed, vista, [vista] { BorrarMasTarde(vista); }, Qt::QueuedConnection);
+        return;
+    }
+    vista->deleteLater();
+}
+
+} // namespace
 
 PantallaQt::PantallaQt() = default;
 PantallaQt::~PantallaQt() = default;
@@ -15,8 +34,7 @@ void PantallaQt::Borrador::operator()(VistaVentana* vista) const
 {
     vista->Soltar();
     vista->hide();
-    // A window often closes in the middle of a click on one of its own buttons.
-    vista->deleteLater();
+    BorrarMasTarde(vista);
 }
 
 VistaVentana* PantallaQt::vista(const Ventana& ventana) const

@@ -59,6 +59,29 @@ TEST(Desktop, AWindowThatIsDestroyedTakesItsViewWithIt)
     EXPECT_TRUE(vista.isNull() || !vista->isVisible());
 }
 
+TEST(Desktop, ABoxOutlivesTheWindowItStandsOver)
+{
+    PantallaQt pantalla;
+    auto demo = std::make_unique<VentanaDemo>();
+    pantalla.Mostrar(*demo);
+    QPointer<QWidget> vista = pantalla.vista(*demo);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(vista));
+    QTimer::singleShot(0, qApp, [&] {
+        const QPointer<QWidget> caja = QApplication::activeModalWidget();
+        ASSERT_NE(caja, nullptr);
+        ASSERT_EQ(caja->parentWidget(), vista);
+        demo.reset();
+        QTimer::singleShot(0, qApp, [caja, vista] { // the turn in which what has been put off is deleted
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            EXPECT_FALSE(vista.isNull() || vista->isVisible());
+            ASSERT_TRUE(caja && caja->isVisible());
+            QTest::keyClick(caja, Qt::Key_Return);
+        });
+    });
+    DialogosQt().Mensaje(u"Falta elegir el tasador."_s, u"Aviso"_s, IconoMensaje::Aviso);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return vista.isNull(); }));
+}
+
 TEST(Desktop, ShowingModallyReturnsOnceTheWindowIsClosed)
 {
     PantallaQt pantalla;
