@@ -178,17 +178,18 @@ bool Formulario::ElegirFecha(CampoTexto& campo)
     return valmerix::ElegirFecha(campo, servicios_.dialogos, servicios_.reloj);
 }
 
+// Only of the fields that the kind has: a house never says that it lacks a lift.
 void Formulario::ComponerFrasesDelEdificio()
 {
     FrasesInforme& frases = servicios_.frases;
-    const auto texto = [this](QStringView nombre) {
-        const auto* campo = dynamic_cast<const CampoTexto*>(buscar(nombre));
-        return campo ? campo->Text() : QString();
+    const auto componer = [this](QStringView nombre, QString& frase, QString (*regla)(QStringView)) {
+        if (const auto* campo = dynamic_cast<const CampoTexto*>(buscar(nombre)))
+            frase = regla(campo->Text());
     };
-    frases.FraseAntiguedad = FraseAntiguedad(texto(u"BoxAntig"));
-    frases.FrasePlantas = descripcion_.estrategias->FrasePlantas(texto(u"BoxPlantas"));
-    frases.FraseViviendasPlanta = FraseViviendasPlanta(texto(u"BoxVPP"));
-    frases.FraseAscensores = FraseAscensores(texto(u"BoxAscen"));
+    componer(u"BoxAntig", frases.FraseAntiguedad, FraseAntiguedad);
+    componer(u"BoxPlantas", frases.FrasePlantas, descripcion_.estrategias->FrasePlantas);
+    componer(u"BoxVPP", frases.FraseViviendasPlanta, FraseViviendasPlanta);
+    componer(u"BoxAscen", frases.FraseAscensores, FraseAscensores);
     // The use is written behind the number, and only a use that there is has been a change.
     ComponerFraseSotanos(texto(u"ComboSotano").isEmpty() ? OrigenSotanos::Numero : OrigenSotanos::Uso);
 }

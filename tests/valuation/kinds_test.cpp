@@ -90,7 +90,9 @@ TEST(Casa, ItsSentencesComposeWithoutTheFieldsItLacks)
     CasoDePrueba casa(kDescripcionCasa, {{u"BoxPlantas", u"1"}});
     casa.form.ComponerFrasesDelEdificio();
     EXPECT_EQ(casa.frases.FrasePlantas, u" y una planta alta"_s);
+    EXPECT_EQ(casa.frases.FraseAntiguedad, u"De nueva planta."_s);
     EXPECT_EQ(casa.frases.FraseViviendasPlanta, QString());
+    EXPECT_EQ(casa.frases.FraseAscensores, QString());
 }
 
 TEST(Apto, DiffersInTwoLists)
