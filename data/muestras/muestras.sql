@@ -1,4 +1,5 @@
--- Ten flats as valuers meet them, for trying the program out, for the report's tests and for measuring.
+-- Ten flats, two apartments and two houses as valuers meet them, for trying the program out, for the
+-- report's tests and for measuring.
 -- The database has been installed before: one row of Empresa, one of Opciones, no valuer.
 -- Dates are ISO texts. A text of 0 and 1 has one digit for each box of its group; an option is its index.
 -- People, companies, registry entries and pictures are invented; no text has a straight apostrophe.
@@ -20,28 +21,28 @@ INSERT INTO Tasadores
     (Nombre, Contador, Domicilio, Poblacion, CodigoPostal,
      Provincia, NIF, Titulacion, ColegioOficial, ColegiadoNumero)
 VALUES
-    ('Xosé Manuel Castro Lema', 57, 'Rúa da Galera, 27, 1.º', 'A Coruña', '15003', 'A Coruña', '22222222-J',
+    ('Xosé Manuel Castro Lema', 58, 'Rúa da Galera, 27, 1.º', 'A Coruña', '15003', 'A Coruña', '22222222-J',
     'Arquitecto', 'Arquitectos de Galicia', '1.908');
 
 INSERT INTO Tasadores
     (Nombre, Contador, Domicilio, Poblacion, CodigoPostal,
      Provincia, NIF, Titulacion, ColegioOficial, ColegiadoNumero)
 VALUES
-    ('Íñigo Sáenz de Urturi Ruiz', 33, 'Avda. de Portugal, 7, 4.º B', 'Logroño', '26001', 'La Rioja',
+    ('Íñigo Sáenz de Urturi Ruiz', 34, 'Avda. de Portugal, 7, 4.º B', 'Logroño', '26001', 'La Rioja',
     '33333333-P', 'Arquitecto Técnico', 'Aparejadores y Arquitectos Técnicos de La Rioja', '655');
 
 INSERT INTO Tasadores
     (Nombre, Contador, Domicilio, Poblacion, CodigoPostal,
      Provincia, NIF, Titulacion, ColegioOficial, ColegiadoNumero)
 VALUES
-    ('M.ª Dolores Núñez Peña', 88, 'C/ Ancha, 40, bajo', 'Cádiz', '11001', 'Cádiz', '44444444-A',
+    ('M.ª Dolores Núñez Peña', 89, 'C/ Ancha, 40, bajo', 'Cádiz', '11001', 'Cádiz', '44444444-A',
     'Ingeniero de Edificación', 'Aparejadores y Arquitectos Técnicos de Cádiz', '1.122');
 
 INSERT INTO Tasadores
     (Nombre, Contador, Domicilio, Poblacion, CodigoPostal,
      Provincia, NIF, Titulacion, ColegioOficial, ColegiadoNumero)
 VALUES
-    ('Núria Puigdollers i Vila', 140, 'Carrer de l’Argenteria, 9, 2n', 'Girona', '17004', 'Girona',
+    ('Núria Puigdollers i Vila', 141, 'Carrer de l’Argenteria, 9, 2n', 'Girona', '17004', 'Girona',
     '55555555-K', 'Arquitecto', 'Arquitectos de Cataluña', '28.341');
 
 -- Market observations entered by the valuers.
@@ -86,7 +87,15 @@ VALUES
     ('E', 'P', 18, '2026-08-04', 'Avda. de les Corts Valencianes, s/n', '46183', 'L’Eliana', 'Valencia',
      'Buena', 'S', 19, 3, 98.00, 116.00, 204000.00, 'm²'),
     ('E', 'P', 19, '2026-09-01', 'Carrer del Purgatori, 20', '46183', 'L’Eliana', 'Valencia',
-     'Media', 'N', 24, 3, 90.00, 108.00, 176000.00, 'm²');
+     'Media', 'N', 24, 3, 90.00, 108.00, 176000.00, 'm²'),
+    ('E', 'A', 20, '2026-05-19', 'Passeig Marítim, 40, 3r 2a', '17480', 'Roses', 'Girona',
+     'Buena', 'S', 44, 2, 58.00, 69.50, 246000.00, 'm²'),
+    ('E', 'A', 21, '2026-06-25', 'Avinguda de Rhode, 87, 1r 4a', '17480', 'Roses', 'Girona',
+     'Buena', 'S', 51, 3, 70.25, 84.00, 268500.00, 'm²'),
+    ('E', 'C', 22, '2026-04-30', 'C/ del Almendro, 5', '11140', 'Conil de la Frontera', 'Cádiz',
+     'Buena', 'N', 18, 4, 150.00, 176.00, 338000.00, 'm²'),
+    ('E', 'C', 23, '2026-07-10', 'Urbanización La Lobita, 22', '11140', 'Conil de la Frontera', 'Cádiz',
+     'Media', 'N', 25, 3, 121.40, 143.00, 259000.00, 'm²');
 
 -- 1. Valencia, Ruzafa: forward, built surface, a store room under the roof, mortgage.
 INSERT INTO Viviendas (NombreTasador, Tipo, NumeroTasacion) VALUES ('Marta Ferrer Climent', 'P', 214);
@@ -602,3 +611,205 @@ INSERT INTO ProblemasUrbanisticos (NombreTasador, Tipo, NumeroTasacion, Problema
     ('Íñigo Sáenz de Urturi Ruiz', 'P', 33,
      'El inmueble está incluido en la unidad de ejecución UE-7 del Plan Especial de Reforma ' ||
         'Interior, que prevé su demolición para la apertura de un vial.');
+
+-- 11. Roses: an apartment by the sea, forward, built surface, garage and a berth.
+INSERT INTO Viviendas (NombreTasador, Tipo, NumeroTasacion) VALUES ('Núria Puigdollers i Vila', 'A', 141);
+UPDATE Viviendas SET
+    Plaza = 'Girona', Fecha = '2026-07-21', Presentacion = 1,
+    Situacion = 'Avinguda de Rhode, 122, 5è 3a',
+    Municipio = 'Roses', CP = '17480', Provincia = 'Girona', Zona = 'Buena',
+    Registro = 'de la Propiedad n.º 2 de Roses', Tomo = '3.207', Libro = '588', Folio = '41',
+    Finca = '36.914', Inscripcion = '4', Anotacion = '',
+    NombreSolicitante = 'Jean-Pierre Lefèvre Dubois', NIFSolicitante = 'X-0000023-B',
+    DomicilioSolicitante = '14, rue de l’Ange', CPSolicitante = '66000',
+    PoblacionSolicitante = 'Perpiñán', ProvinciaSolicitante = 'Francia',
+    OpcionFinalidad = 0, TextoFinalidad = '',
+    Actividad = 'Turismo', Renta = 'Elevado', Censo = 'Población creciente', HabitantesDerecho = 20418,
+    HabitantesHecho = 95000,
+    OpcionTipoNucleo = 2, TextoSatelite = 'Figueres', TextoTipoNucleo = '',
+    Consolidacion = 92, Delimitacion = 'En la zona costera', Uso = 'Apartamentos primera línea de playa',
+    Infraestructuras = '1111111', Comunicaciones = '1001100',
+    EquipamientosBasicos = '11110', EquipamientosLudicos = '11001',
+    Plantas = 6, VivPorPlanta = 4, Ascensores = 2, Antiguedad = 48, Sotanos = 1,
+    Tipologia = 'Edificio aislado', UsoBaja = 'Comercial', UsoSotano = 'Garaje',
+    Estructura = 'Hormigón', Cubierta = 'Plana pisable', Fachada = 'Pintura pétrea',
+    Zaguan = 'Amplio', AcabZaguan = 'Bien acabado', Escalera = 'Estrecha',
+    AcabEscalera = 'Calidad sencilla',
+    ServiciosComunes = '100110', Conservacion = 1, SitUrb = 0,
+    Composicion = '1010100101', Dormitorios = 2, Baños = 1, Aseos = 0, Terrazas = 1,
+    Otros = 0, NombreOtros = '', Otros2 = 0, NombreOtros2 = '',
+    Pavimentos = '01000', CarpinteriaInterior = 3, TextoCarpinteriaInterior = '',
+    CarpinteriaExterior = 0, TextoCarpinteriaExterior = '',
+    MobiliarioK = 1, TextoMobiliarioK = '',
+    AcabadoInterior = 0, TextoAcabadoInterior = '',
+    Sup = 1, SupUtil = 61.30, SupConst = 73.50, ConservacionViv = 0, CalidadesGrales = 2,
+    Documentacion = '1010', TextoDocumentacion = '',
+    Anexos = '011', PlantaTrastero = '', ValorTrastero = 0.00, PlantaGaraje = 'sótano primero',
+    ValorGaraje = 19500.00,
+    DescripcionAnexo = 'AMARRE de ocho metros', ValorAnexo = 14200.50,
+    ValorProvisional = 0.00, SuperficieSolar = 1150.00, Repercusion = 1480.00,
+    SuperficieSobreRasante = 1946.00,
+    CosteConstruccion = 1020.00, CoeficienteK = 1.62, ValorFinal = 273078.83,
+    Observaciones = 'Desde la terraza se ven la bahía y el faro. El apartamento se alquila por semanas de ' ||
+        'junio a septiembre.'
+WHERE NombreTasador = 'Núria Puigdollers i Vila' AND Tipo = 'A' AND NumeroTasacion = 141;
+INSERT INTO Testigos
+    (Origen, Tipo, Tasacion, Fecha, Situacion, CP, Municipio, Provincia,
+     Zona, Ascensor, Antiguedad, Dormitorios, SupUtil, Superficie, ValorFinal, UnidadMedida)
+VALUES
+    ('I', 'A', -141, '2026-07-21', 'Avinguda de Rhode, 122, 5è 3a',
+     '17480', 'Roses', 'Girona', 'Buena', 'S', 48, 2, 61.30, 73.50, 273078.83, 'm²');
+INSERT INTO ImagenesAsociadas (NombreTasador, Tipo, NumeroTasacion, Nombre, Ruta) VALUES
+    ('Núria Puigdollers i Vila', 'A', 141, 'Vista desde la terraza', '/srv/tasaciones/2026/141/Terraza.jpg');
+INSERT INTO TestigosInforme (NombreTasador, Tipo, NumeroTasacion, Origen, Testigo) VALUES
+    ('Núria Puigdollers i Vila', 'A', 141, 'E', 20),
+    ('Núria Puigdollers i Vila', 'A', 141, 'E', 21);
+
+-- 12. Formigal: an apartment of a ski resort for a partition of an estate, backward from a known value on the
+-- useful surface alone, with neither presentation nor notes, against the planning.
+INSERT INTO Viviendas (NombreTasador, Tipo, NumeroTasacion) VALUES ('Íñigo Sáenz de Urturi Ruiz', 'A', 34);
+UPDATE Viviendas SET
+    Plaza = 'Logroño', Fecha = '2026-02-27', Presentacion = 0,
+    Situacion = 'Urbanización Formigal, edificio Tirol, escalera 2, 4.º F',
+    Municipio = 'Sallent de Gállego', CP = '22640', Provincia = 'Huesca', Zona = 'Media',
+    Registro = 'de la Propiedad de Jaca', Tomo = '1.391', Libro = '66', Folio = '', Finca = '5.018',
+    Inscripcion = '2', Anotacion = '',
+    NombreSolicitante = 'Herederos de D. Ángel Güemes Peña', NIFSolicitante = '',
+    DomicilioSolicitante = '', CPSolicitante = '', PoblacionSolicitante = 'Haro',
+    ProvinciaSolicitante = 'La Rioja',
+    OpcionFinalidad = 4, TextoFinalidad = 'Partición de HERENCIA',
+    Actividad = 'Ganadería', Renta = 'Medio', Censo = 'Estable', HabitantesDerecho = 1498,
+    HabitantesHecho = 0,
+    OpcionTipoNucleo = 1, TextoSatelite = '', TextoTipoNucleo = '',
+    Consolidacion = 0, Delimitacion = 'Próximo a estación de esquí', Uso = 'Residencia Estival',
+    Infraestructuras = '1011110', Comunicaciones = '1001000',
+    EquipamientosBasicos = '10000', EquipamientosLudicos = '01000',
+    Plantas = 5, VivPorPlanta = 6, Ascensores = 1, Antiguedad = 33, Sotanos = 0,
+    Tipologia = 'Entre medianeras', UsoBaja = 'Trasteros', UsoSotano = '',
+    Estructura = 'Mixta', Cubierta = 'De pizarra', Fachada = 'Mampostería',
+    Zaguan = 'Pequeño', AcabZaguan = 'Anticuado', Escalera = 'Amplia', AcabEscalera = 'Anticuada',
+    ServiciosComunes = '000001', Conservacion = 0, SitUrb = 1,
+    Composicion = '1000010100', Dormitorios = 0, Baños = 1, Aseos = 0, Terrazas = 0,
+    Otros = 1, NombreOtros = 'Estar con LITERAS', Otros2 = 0, NombreOtros2 = '',
+    Pavimentos = '00100', CarpinteriaInterior = 1, TextoCarpinteriaInterior = '',
+    CarpinteriaExterior = 1, TextoCarpinteriaExterior = '',
+    MobiliarioK = 4, TextoMobiliarioK = 'Pino macizo',
+    AcabadoInterior = 2, TextoAcabadoInterior = 'Friso de madera',
+    Sup = 0, SupUtil = 38.40, SupConst = 0.00, ConservacionViv = 2, CalidadesGrales = 1,
+    Documentacion = '0000', TextoDocumentacion = '',
+    Anexos = '100', PlantaTrastero = 'baja', ValorTrastero = 3500.00, PlantaGaraje = '', ValorGaraje = 0.00,
+    DescripcionAnexo = '', ValorAnexo = 0.00,
+    ValorProvisional = 92000.00, SuperficieSolar = 0.00, Repercusion = 0.00,
+    SuperficieSobreRasante = 1584.00,
+    CosteConstruccion = 1100.00, CoeficienteK = 1.35, ValorFinal = 95500.00,
+    Observaciones = ''
+WHERE NombreTasador = 'Íñigo Sáenz de Urturi Ruiz' AND Tipo = 'A' AND NumeroTasacion = 34;
+INSERT INTO Testigos
+    (Origen, Tipo, Tasacion, Fecha, Situacion, CP, Municipio, Provincia,
+     Zona, Ascensor, Antiguedad, Dormitorios, SupUtil, Superficie, ValorFinal, UnidadMedida)
+VALUES
+    ('I', 'A', -34, '2026-02-27', 'Urbanización Formigal, edificio Tirol, escalera 2, 4.º F',
+     '22640', 'Sallent de Gállego', 'Huesca', 'Media', 'S', 33, 0, 38.40, 0.00, 95500.00, 'm²');
+INSERT INTO ProblemasUrbanisticos (NombreTasador, Tipo, NumeroTasacion, Problema) VALUES
+    ('Íñigo Sáenz de Urturi Ruiz', 'A', 34,
+     'La galería cerrada de la fachada norte carece de licencia y excede la edificabilidad de la parcela.');
+
+-- 13. Betanzos: a new farmhouse without upper floors, all services of its own, every annex, plot unknown.
+INSERT INTO Viviendas (NombreTasador, Tipo, NumeroTasacion) VALUES ('Xosé Manuel Castro Lema', 'C', 58);
+UPDATE Viviendas SET
+    Plaza = 'A Coruña', Fecha = '2026-10-02', Presentacion = 1,
+    Situacion = 'Lugar de Piadela, 7',
+    Municipio = 'Betanzos', CP = '15300', Provincia = 'A Coruña', Zona = 'Media',
+    Registro = 'de la Propiedad de Betanzos', Tomo = '1.886', Libro = '202', Folio = '119',
+    Finca = '17.345', Inscripcion = '1', Anotacion = 'A',
+    NombreSolicitante = 'M.ª Xosé Ínsua Vázquez', NIFSolicitante = '77777777-B',
+    DomicilioSolicitante = 'Lugar de Piadela, 7', CPSolicitante = '', PoblacionSolicitante = '',
+    ProvinciaSolicitante = 'A Coruña',
+    OpcionFinalidad = 2, TextoFinalidad = '',
+    Actividad = 'Agricultura', Renta = 'Bajo', Censo = 'Población decreciente', HabitantesDerecho = 12917,
+    HabitantesHecho = 0,
+    OpcionTipoNucleo = 3, TextoSatelite = '', TextoTipoNucleo = 'Cabeza de PARTIDO judicial',
+    Consolidacion = 40, Delimitacion = 'Barrio periférico', Uso = 'Huertas y prados',
+    Infraestructuras = '0010110', Comunicaciones = '1101100',
+    EquipamientosBasicos = '00000', EquipamientosLudicos = '00000',
+    Plantas = 0, Antiguedad = 1, Sotanos = 1,
+    Tipologia = 'Explotación agropecuaria', UsoSotano = 'Bodega',
+    Estructura = 'Muros de carga', Cubierta = 'Inclinada teja', Fachada = 'Mampostería',
+    ServiciosComunes = '000000', ServiciosIndividuales = '111111', Conservacion = 4, SitUrb = 0,
+    Composicion = '1111111111', Dormitorios = 4, Baños = 1, Aseos = 1, Terrazas = 2,
+    Otros = 1, NombreOtros = 'Despacho', Otros2 = 2, NombreOtros2 = 'Almacén de APEROS',
+    Pavimentos = '11111', CarpinteriaInterior = 2, TextoCarpinteriaInterior = '',
+    CarpinteriaExterior = 4, TextoCarpinteriaExterior = 'Aluminio por fuera y madera por dentro',
+    MobiliarioK = 2, TextoMobiliarioK = '',
+    AcabadoInterior = 1, TextoAcabadoInterior = '',
+    Sup = 1, SupUtil = 0.00, SupConst = 214.60, ConservacionViv = 0, CalidadesGrales = 2,
+    Documentacion = '1111', TextoDocumentacion = 'Certificado final de OBRA',
+    Anexos = '111', PlantaTrastero = 'baja', ValorTrastero = 6000.00, PlantaGaraje = 'baja',
+    ValorGaraje = 12000.00,
+    DescripcionAnexo = 'hórreo de Granito', ValorAnexo = 18000.00,
+    ValorProvisional = 0.00, SuperficieSolar = 0.00, Repercusion = 210.00,
+    SuperficieSobreRasante = 214.60,
+    CosteConstruccion = 870.00, CoeficienteK = 1.05, ValorFinal = 277396.03,
+    Observaciones = 'La casa se abastece además de un pozo propio.'
+WHERE NombreTasador = 'Xosé Manuel Castro Lema' AND Tipo = 'C' AND NumeroTasacion = 58;
+INSERT INTO Testigos
+    (Origen, Tipo, Tasacion, Fecha, Situacion, CP, Municipio, Provincia,
+     Zona, Ascensor, Antiguedad, Dormitorios, SupUtil, Superficie, ValorFinal, UnidadMedida)
+VALUES
+    ('I', 'C', -58, '2026-10-02', 'Lugar de Piadela, 7',
+     '15300', 'Betanzos', 'A Coruña', 'Media', 'N', 1, 4, 0.00, 214.60, 277396.03, 'm²');
+INSERT INTO ImagenesAsociadas (NombreTasador, Tipo, NumeroTasacion, Nombre, Ruta) VALUES
+    ('Xosé Manuel Castro Lema', 'C', 58, 'Hórreo', '/srv/tasaciones/2026/58/Hórreo.jpg');
+
+-- 14. Conil: a terraced house on three floors with two basements, backward, useful surface, an unlicensed
+-- pergola.
+INSERT INTO Viviendas (NombreTasador, Tipo, NumeroTasacion) VALUES ('M.ª Dolores Núñez Peña', 'C', 89);
+UPDATE Viviendas SET
+    Plaza = 'Cádiz', Fecha = '2026-09-16', Presentacion = 1,
+    Situacion = 'C/ de los Alcornoques, 11',
+    Municipio = 'Conil de la Frontera', CP = '11140', Provincia = 'Cádiz', Zona = 'Buena',
+    Registro = 'de la Propiedad de Conil de la Frontera', Tomo = '2.004', Libro = '371', Folio = '15',
+    Finca = '19.880', Inscripcion = '3', Anotacion = '',
+    NombreSolicitante = 'Construcciones Peñón del Águila, S.L.', NIFSolicitante = 'B-00000059',
+    DomicilioSolicitante = 'C/ Cádiz, 3, bajo', CPSolicitante = '11140',
+    PoblacionSolicitante = 'Conil de la Frontera', ProvinciaSolicitante = 'Cádiz',
+    OpcionFinalidad = 1, TextoFinalidad = '',
+    Actividad = 'Turismo', Renta = 'Medio', Censo = 'En ligero AUMENTO', HabitantesDerecho = 23120,
+    HabitantesHecho = 85000,
+    OpcionTipoNucleo = 1, TextoSatelite = '', TextoTipoNucleo = '',
+    Consolidacion = 75, Delimitacion = 'Zona de ensanche', Uso = 'Residencial',
+    Infraestructuras = '1111110', Comunicaciones = '0001100',
+    EquipamientosBasicos = '01010', EquipamientosLudicos = '11000',
+    Plantas = 2, Antiguedad = 21, Sotanos = 2,
+    Tipologia = 'Adosada con jardín', UsoSotano = 'Garaje',
+    Estructura = 'Hormigón', Cubierta = 'Plana no pisable', Fachada = 'Enfoscado mortero',
+    ServiciosComunes = '100100', ServiciosIndividuales = '000001', Conservacion = 0, SitUrb = 1,
+    Composicion = '1011100111', Dormitorios = 4, Baños = 2, Aseos = 1, Terrazas = 3,
+    Otros = 0, NombreOtros = '', Otros2 = 0, NombreOtros2 = '',
+    Pavimentos = '00010', CarpinteriaInterior = 0, TextoCarpinteriaInterior = '',
+    CarpinteriaExterior = 2, TextoCarpinteriaExterior = '',
+    MobiliarioK = 3, TextoMobiliarioK = '',
+    AcabadoInterior = 0, TextoAcabadoInterior = '',
+    Sup = 0, SupUtil = 142.35, SupConst = 168.90, ConservacionViv = 0, CalidadesGrales = 3,
+    Documentacion = '1000', TextoDocumentacion = '',
+    Anexos = '010', PlantaTrastero = 'sótano segundo', ValorTrastero = 0.00,
+    PlantaGaraje = 'Sótano primero', ValorGaraje = 9000.00,
+    DescripcionAnexo = '', ValorAnexo = 0.00,
+    ValorProvisional = 315000.00, SuperficieSolar = 180.00, Repercusion = 0.00,
+    SuperficieSobreRasante = 168.90,
+    CosteConstruccion = 905.00, CoeficienteK = 1.40, ValorFinal = 324000.00,
+    Observaciones = 'La superficie no incluye los sótanos.' || char(13, 10) ||
+        'El jardín privativo mide 54 m².'
+WHERE NombreTasador = 'M.ª Dolores Núñez Peña' AND Tipo = 'C' AND NumeroTasacion = 89;
+INSERT INTO Testigos
+    (Origen, Tipo, Tasacion, Fecha, Situacion, CP, Municipio, Provincia,
+     Zona, Ascensor, Antiguedad, Dormitorios, SupUtil, Superficie, ValorFinal, UnidadMedida)
+VALUES
+    ('I', 'C', -89, '2026-09-16', 'C/ de los Alcornoques, 11',
+     '11140', 'Conil de la Frontera', 'Cádiz', 'Buena', 'N', 21, 4, 142.35, 168.90, 324000.00, 'm²');
+INSERT INTO ProblemasUrbanisticos (NombreTasador, Tipo, NumeroTasacion, Problema) VALUES
+    ('M.ª Dolores Núñez Peña', 'C', 89,
+     'La pérgola de obra del patio se levantó sin licencia y ocupa el retranqueo a la linde trasera.');
+INSERT INTO TestigosInforme (NombreTasador, Tipo, NumeroTasacion, Origen, Testigo) VALUES
+    ('M.ª Dolores Núñez Peña', 'C', 89, 'E', 22),
+    ('M.ª Dolores Núñez Peña', 'C', 89, 'E', 23);

@@ -4,6 +4,7 @@
 #include "shell/report_tool.h"
 #include "store/query.h"
 #include "support/sample_base.h"
+#include "valuation/kind_descriptions.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -26,15 +27,20 @@ struct Muestra
     const char* tasador;
     int numero;
     const char* perfil = "";
+    char16_t tipo = u'P';
 };
 
-// 23 sections, then 16 lines.
+// 23 sections, then 16 lines; a house has 13.
 constexpr char kTodoFuera[] = "000000000000000000000000000000000000000";
 constexpr char kSoloValores[] = "000000000000000000100010000000000000000";
 constexpr char kSinSieteApartados[] = "110110110100111101110111111111111111111";
 constexpr char kSinLineas[] = "111111111111111111111110101001001101001";
 
-constexpr Muestra kMuestras[] = {
+constexpr char kApartamentoEnParte[] = "101011111011110111011110101101010110110";
+constexpr char kCasaTodaFuera[] = "000000000000000000000000000000000000";
+constexpr char kCasaEnParte[] = "110111011010111010101011010101101010";
+
+constexpr Muestra kPisos[] = {
     {"valencia", "Marta Ferrer Climent", 214},
     {"alcoi", "Marta Ferrer Climent", 215},
     {"castello", "Marta Ferrer Climent", 216},
@@ -51,6 +57,20 @@ constexpr Muestra kMuestras[] = {
     {"profile_lines_off", "Marta Ferrer Climent", 215, kSinLineas},
 };
 
+constexpr Muestra kApartamentos[] = {
+    {"roses", "Núria Puigdollers i Vila", 141, "", u'A'},
+    {"formigal", "Íñigo Sáenz de Urturi Ruiz", 34, "", u'A'},
+    {"apartment_profile_off", "Núria Puigdollers i Vila", 141, kTodoFuera, u'A'},
+    {"apartment_profile_in_part", "Íñigo Sáenz de Urturi Ruiz", 34, kApartamentoEnParte, u'A'},
+};
+
+constexpr Muestra kCasas[] = {
+    {"betanzos", "Xosé Manuel Castro Lema", 58, "", u'C'},
+    {"conil", "M.ª Dolores Núñez Peña", 89, "", u'C'},
+    {"house_profile_off", "M.ª Dolores Núñez Peña", 89, kCasaTodaFuera, u'C'},
+    {"house_profile_in_part", "Xosé Manuel Castro Lema", 58, kCasaEnParte, u'C'},
+};
+
 class InformeDeMuestra : public testing::TestWithParam<Muestra>
 {
 protected:
@@ -60,7 +80,8 @@ protected:
         CrearBaseDeMuestras(base_);
         const QByteArray perfil(GetParam().perfil);
         if (!perfil.isEmpty()) {
-            EjecutarEnBase(base_, "UPDATE Opciones SET PerfilPiso = '" + perfil + "';");
+            const QByteArray columna = DescripcionDe(GetParam().tipo)->columnaPerfil.toUtf8();
+            EjecutarEnBase(base_, "UPDATE Opciones SET " + columna + " = '" + perfil + "';");
         }
     }
 
@@ -70,7 +91,7 @@ protected:
         QBuffer errores;
         salida.open(QIODevice::WriteOnly);
         errores.open(QIODevice::WriteOnly);
-        const QStringList caso{base_, u"P"_s, QString::fromUtf8(GetParam().tasador),
+        const QStringList caso{base_, tipo(), QString::fromUtf8(GetParam().tasador),
                                QString::number(GetParam().numero)};
         EXPECT_EQ(EjecutarInforme(caso + opciones, salida, errores), 0) << errores.data().toStdString();
         EXPECT_EQ(errores.data().toStdString(), "");
@@ -78,6 +99,7 @@ protected:
     }
 
     QString base() const { return base_; }
+    static QString tipo() { return QChar(GetParam().tipo); }
 
 private:
     QTemporaryDir carpeta_;
@@ -106,14 +128,20 @@ TEST_P(InformeDeMuestra, StoresTheValueThatTheCalculatorsGive)
     AccesoDatos::clsConsulta consulta;
     consulta.AbrirBaseDatosEmpresa(base());
     const ConjuntoResultados caso = consulta.Instantanea2(
-        u"Empresa"_s, u"SELECT ValorFinal FROM Viviendas WHERE Tipo = 'P' AND NumeroTasacion = %1"_s.arg(
-                          GetParam().numero));
+        u"Empresa"_s, u"SELECT ValorFinal FROM Viviendas WHERE Tipo = '%1' AND NumeroTasacion = %2"_s.arg(
+                          tipo(), QString::number(GetParam().numero)));
     EXPECT_EQ(NumeroSQL(total, u"0.00"_s, 2).toStdString(),
               QString::number(caso.Numero(u"ValorFinal"), 'f', 2).toStdString());
 }
 
-INSTANTIATE_TEST_SUITE_P(Pisos, InformeDeMuestra, testing::ValuesIn(kMuestras),
-                         [](const auto& caso) { return std::string(caso.param.carpeta); });
+std::string Nombre(const testing::TestParamInfo<Muestra>& caso)
+{
+    return caso.param.carpeta;
+}
+
+INSTANTIATE_TEST_SUITE_P(Pisos, InformeDeMuestra, testing::ValuesIn(kPisos), Nombre);
+INSTANTIATE_TEST_SUITE_P(Apartamentos, InformeDeMuestra, testing::ValuesIn(kApartamentos), Nombre);
+INSTANTIATE_TEST_SUITE_P(Casas, InformeDeMuestra, testing::ValuesIn(kCasas), Nombre);
 
 } // namespace
 

@@ -145,7 +145,7 @@ def main():
                         "fodt", "--outdir", folder] + [rtf for _, _, _, rtf in reports],
                        check=True, stdout=subprocess.DEVNULL, timeout=240)
         good = [check(name, text, headings, rtf[:-4] + ".fodt") for name, text, headings, rtf in reports]
-        return 0 if len(good) == 10 and all(good) else 1
+        return 0 if len(good) == 14 and all(good) else 1
 
 
 sys.exit(main())
