@@ -107,14 +107,28 @@ TEST_F(ConBase, TheEndStoresSurfaceHeadingAndProfileForTheNextOfItsKind)
     EXPECT_EQ(otro.perfil(), perfil);
     EXPECT_TRUE(otro.opciones(u"Sup").Value(0));
     EXPECT_FALSE(otro.marcada(u"Check1"));
+}
 
-    Formulario casa(kDescripcionCasa, entorno.servicios);
-    casa.Load();
-    EXPECT_EQ(casa.perfil(), QString(36, u'1'));
-    casa.casilla(u"chkPuntos(0)").setValue(0);
-    casa.Cerrar();
-    EXPECT_EQ(Opcion(u"PerfilPiso"), perfil);
-    EXPECT_EQ(Opcion(u"PerfilCasa"), casa.perfil());
+TEST_F(ConBase, EachKindStoresItsProfileInItsOwnColumn)
+{
+    const auto cerrar = [this](const DescripcionForma& descripcion, QStringView apagada) {
+        Formulario forma(descripcion, entorno.servicios);
+        forma.Load();
+        forma.casilla(apagada).setValue(0);
+        forma.Cerrar();
+        return almacen.sql.last();
+    };
+    const QString comienzo = u"UPDATE Opciones SET TipoSuperficie = 'Const', MostrarCabecera = 'V', "_s;
+    QString apto(39, u'1');
+    apto[38] = u'0';
+    EXPECT_EQ(cerrar(kDescripcionApto, u"chkPuntos(15)"),
+              comienzo + u"PerfilApartamento = '"_s + apto + u"'"_s);
+    QString casa(36, u'1');
+    casa[23] = u'0';
+    EXPECT_EQ(cerrar(kDescripcionCasa, u"chkPuntos(0)"), comienzo + u"PerfilCasa = '"_s + casa + u"'"_s);
+    EXPECT_EQ(Opcion(u"PerfilPiso"), QString(39, u'1'));
+    EXPECT_EQ(Opcion(u"PerfilApartamento"), apto);
+    EXPECT_EQ(Opcion(u"PerfilCasa"), casa);
 }
 
 TEST_F(ConBase, AStoreThatCannotBeOpenedStopsTheStartAndGivesThePointerBack)
