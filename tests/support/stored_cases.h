@@ -2,8 +2,9 @@
 
 #include "store/case_loading.h"
 #include "store/case_saving.h"
+#include "support/fake_ports.h"
+#include "support/qt_printers.h"
 #include "support/store_fixture.h"
-#include "support/test_form.h"
 
 #include <QMap>
 #include <gtest/gtest.h>

@@ -1,88 +1,12 @@
 #include "common/number_reading.h"
-#include "store/case_fields.h"
-#include "valuation/stored_cases.h"
-
-#include <algorithm>
-#include <random>
+#include "support/random_case.h"
+#include "support/stored_cases.h"
 
 namespace valmerix {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Fills a case window as nobody would, in any order. The numbers of the generator are the same everywhere.
-class Azar
-{
-public:
-    explicit Azar(unsigned semilla)
-        : generador_(semilla)
-    {
-    }
-
-    int hasta(int tope) { return static_cast<int>(generador_() % static_cast<unsigned>(tope)); }
-    bool una_de(int veces) { return hasta(veces) == 0; }
-
-    QString Texto()
-    {
-        constexpr QStringView kLetras = u"aáeéiíoóuúüñÑçÇàbcdBCD .,;:()-ºª€m²%’“”«»0123456789";
-        QString texto;
-        for (int i = una_de(3) ? 0 : 1 + hasta(18); i > 0; --i)
-            texto += kLetras[hasta(static_cast<int>(kLetras.size()))];
-        return texto.trimmed();
-    }
-    /// Empty, or above 0: a typed zero is shown as an empty box when it comes back.
-    QString Numero(const CampoCaso& campo)
-    {
-        if (una_de(4))
-            return {};
-        const int entero = 1 + hasta(campo.columna == u"Consolidacion" ? 100 : 240);
-        QString texto = QString::number(entero);
-        if (campo.decimalesVista == 2 && una_de(2))
-            texto += u',' + QString::number(100 + hasta(100)).mid(1);
-        return texto;
-    }
-    void Barajar(std::vector<const CampoCaso*>& campos)
-    {
-        for (size_t i = campos.size(); i > 1; --i)
-            std::swap(campos[i - 1], campos[static_cast<size_t>(hasta(static_cast<int>(i)))]);
-    }
-
-    void Llenar(const Formulario& forma, const CampoCaso& campo)
-    {
-        switch (campo.forma) {
-        case FormaCampo::Texto:
-            return LlenarTexto(forma.campo(campo.controles));
-        case FormaCampo::Fecha:
-            return forma.campo(campo.controles)
-                .setText(QDate(2000, 1, 1).addDays(hasta(9000)).toString(u"dd/MM/yyyy"_s));
-        case FormaCampo::Numero:
-        case FormaCampo::Habitantes:
-            return forma.campo(campo.controles).setText(Numero(campo));
-        case FormaCampo::Casilla:
-        case FormaCampo::Casillas:
-            for (const QStringView nombre : campo.controles.split(u'|'))
-                forma.casilla(nombre).setValue(hasta(2));
-            return;
-        case FormaCampo::Opcion: {
-            GrupoOpciones& grupo = forma.opciones(campo.controles);
-            return grupo.Elegir(hasta(grupo.Count()));
-        }
-        default:
-            FAIL() << "no dwelling has such a field: " << campo.columna.toString().toStdString();
-        }
-    }
-
-private:
-    void LlenarTexto(CampoTexto& campo)
-    {
-        const auto* lista = dynamic_cast<const Lista*>(&campo);
-        const bool elige = lista != nullptr && lista->ListCount() > 0 && una_de(2);
-        campo.setText(elige ? lista->List().at(hasta(lista->ListCount())) : Texto());
-    }
-
-    std::mt19937 generador_;
-};
 
 /// A text and the option that goes with it; the order is that of loading.
 struct TextoConOpcion
@@ -126,13 +50,7 @@ protected:
     qint32 GuardarUnoAlAzar(Azar& azar)
     {
         const auto forma = Nuevo(*GetParam());
-        std::vector<const CampoCaso*> campos;
-        for (const CampoCaso& campo : CamposDeCaso()) {
-            if (campo.es(TipoDeLetra(forma->letra())) && campo.seLee())
-                campos.push_back(&campo);
-        }
-        azar.Barajar(campos);
-        for (const CampoCaso* campo : campos)
+        for (const CampoCaso* campo : azar.CamposBarajados(forma->letra()))
             azar.Llenar(*forma, *campo);
         forma->PonerFraseUrbanistica(azar.Texto());
         for (int i = azar.hasta(3); i > 0; --i)

@@ -1,4 +1,5 @@
-#include "valuation/stored_cases.h"
+#include "support/stored_cases.h"
+#include "support/test_form.h"
 
 namespace valmerix {
 
