@@ -97,6 +97,11 @@ void Ventana::setWindowState(EstadoVentana estado)
     Q_EMIT Resize();
 }
 
+void Ventana::AñadirAtajo(const QString& teclas, std::function<void()> orden)
+{
+    atajos_.push_back({teclas, std::move(orden)});
+}
+
 void Ventana::Mover(const QRect& lugar)
 {
     if (lugar_ == lugar)

@@ -9,6 +9,7 @@
 
 #include <QPointer>
 #include <QRect>
+#include <functional>
 #include <memory>
 #include <unordered_map>
 #include <utility>
@@ -17,6 +18,13 @@
 namespace valmerix {
 
 enum class EstadoVentana { Normal, Minimizada, Maximizada };
+
+/// A key, such as "Ctrl+S", and what it runs.
+struct Atajo
+{
+    QString teclas;
+    std::function<void()> orden;
+};
 
 /// A window: an ordered set of controls found by name, a caption, a place, a state, the focus. It has no
 /// screen of its own; whoever shows it (see Pantalla) listens to its signals.
@@ -92,6 +100,10 @@ public:
     /// The window system's news of a place or state, or of the window having come to the front or left it.
     void Activar() { Q_EMIT Activate(); }
     void Desactivar() { Q_EMIT Deactivate(); }
+    /// Keys that hold in all the program while this window is before her eyes and no modal one above it.
+    const std::vector<Atajo>& atajos() const { return atajos_; }
+    /// To be called before the window is first shown.
+    void AñadirAtajo(const QString& teclas, std::function<void()> orden);
     /// A key that no control takes, such as Escape.
     void PulsarTecla(int tecla) { Q_EMIT KeyDown(tecla); }
 
@@ -136,6 +148,7 @@ private:
     QString caption_;
     std::vector<std::unique_ptr<Control>> controles_;
     std::unordered_map<QStringView, Control*, Picadillo> porNombre_; // views of the controls' own names
+    std::vector<Atajo> atajos_;
     Control* foco_ = nullptr;
     EstadoVentana estado_ = EstadoVentana::Normal;
     QRect lugar_;

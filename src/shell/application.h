@@ -113,11 +113,14 @@ private:
     void DescartarFormulario();
     void ImpedirIcono();
     void MostrarCaso();
+    void PonerAtajos();
+    void PulsarOrden(OrdenPaleta orden);
     void Guardar();
     void RedactarInforme();
     void CerrarVisor();
     /// Throws std::runtime_error with the words of what the module has thrown.
     void EjecutarExtension();
+    void AsegurarPaleta();
     std::unique_ptr<Opciones> CrearConfiguracion();
     void Iniciar(clsVMXtension& extension);
     void LimpiarEstado();

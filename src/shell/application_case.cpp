@@ -41,6 +41,7 @@ void Aplicacion::CrearFormulario(const QString& letra)
     formulario_ = std::make_unique<Formulario>(
         *descripcion, ServiciosCaso{compartido_, calculo_, frases_, opciones_, puertos_.dialogos,
                                     puertos_.reloj, puertos_.sistema, *this});
+    PonerAtajos();
     formulario_->Mover(LugarDelCaso(puertos_.pantalla.area()));
     connect(formulario_.get(), &Ventana::Resize, this, &Aplicacion::ImpedirIcono);
     formulario_->Load();

@@ -9,6 +9,7 @@
 #include "valuation/case_form.h"
 
 #include <QPointer>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <stdexcept>
 
@@ -39,22 +40,48 @@ void Aplicacion::MostrarPaletaEn(int izquierda, int arriba)
 {
     if (!formulario_ || !formulario_->visible()) // it comes with the window, not before it
         return;
-    if (!paleta_ || !paleta_->abierta()) {
-        paleta_ = std::make_unique<Form2>(formulario_->nombre());
-        paleta_->Servir(*formulario_);
-        connect(paleta_.get(), &Form2::Pedida, this, &Aplicacion::EjecutarOrden);
-        connect(paleta_.get(), &Ventana::Cerrada, this, [this] { compartido_.PaletaAbierta = false; });
-        connect(paleta_.get(), &Form2::CierrePedido, this, [this] {
-            compartido_.CierrePaleta = true;
-            formulario_->control(u"SSCommand3").setTag(u"N"_s);
-            compartido_.CierrePaleta = false;
-            CerrarPaleta();
-        });
-    }
+    AsegurarPaleta();
     QRect lugar = paleta_->lugar();
     lugar.moveTopLeft({izquierda, arriba});
     paleta_->Mover(lugar);
     puertos_.pantalla.Mostrar(*paleta_);
+}
+
+void Aplicacion::AsegurarPaleta()
+{
+    if (paleta_ && paleta_->abierta())
+        return;
+    paleta_ = std::make_unique<Form2>(formulario_->nombre());
+    paleta_->Servir(*formulario_);
+    connect(paleta_.get(), &Form2::Pedida, this, &Aplicacion::EjecutarOrden);
+    connect(paleta_.get(), &Ventana::Cerrada, this, [this] { compartido_.PaletaAbierta = false; });
+    connect(paleta_.get(), &Form2::CierrePedido, this, [this] {
+        compartido_.CierrePaleta = true;
+        formulario_->control(u"SSCommand3").setTag(u"N"_s);
+        compartido_.CierrePaleta = false;
+        CerrarPaleta();
+    });
+}
+
+// The keys are the case window's: they hold while it stands open, with its toolbar or without.
+void Aplicacion::PonerAtajos()
+{
+    const auto ordenes = OrdenesDePaleta();
+    for (size_t i = 0; i < ordenes.size(); ++i) {
+        const auto orden = static_cast<OrdenPaleta>(i);
+        if (orden != OrdenPaleta::Ayuda) // which every window answers itself, with the page that tells of it
+            formulario_->AñadirAtajo(ordenes[i].atajo.toString(), [this, orden] { PulsarOrden(orden); });
+    }
+}
+
+void Aplicacion::PulsarOrden(OrdenPaleta orden)
+{
+    const auto indice = static_cast<int>(orden);
+    if (paleta_ && paleta_->abierta()) {
+        paleta_->boton(Ventana::Indice(u"Botonera", indice)).Pulsar();
+    } else if (!OrdenesDePaleta()[static_cast<size_t>(indice)].ayuda.isEmpty()) {
+        EjecutarOrden(orden);
+    }
 }
 
 void Aplicacion::CerrarPaleta()
@@ -85,7 +112,7 @@ void Aplicacion::MostrarAyuda(const QString& ventana)
 
 void Aplicacion::EjecutarExtension()
 {
-    if (!formulario_ || !paleta_ || enExtension_)
+    if (!formulario_ || enExtension_)
         return;
     CerrarVisor();
     TipoDocumento_ = u"VMXtension"_s;
@@ -100,6 +127,11 @@ void Aplicacion::EjecutarExtension()
         return;
     }
     const QScopedValueRollback guarda(enExtension_, true);
+    AsegurarPaleta(); // the module is handed the toolbar, open or not
+    const auto recoger = qScopeGuard([this] {
+        if (paleta_ && !paleta_->visible())
+            CerrarPaleta();
+    });
     try {
         Iniciar(*extension.componente);
     } catch (const std::exception& fallo) {

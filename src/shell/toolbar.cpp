@@ -8,25 +8,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct FilaBoton
-{
-    QStringView titulo;
-    QStringView ayuda; ///< empty while the command is still to come
-};
-
 constexpr std::array kBotonera = {
-    FilaBoton{u"Informe", u"Redactar el informe de esta tasación"},
-    FilaBoton{u"Cerrar visor", u"Cerrar el visor del informe"},
-    FilaBoton{u"Configuración", u"Edades, moneda, cabecera y procesador de textos"},
-    FilaBoton{u"Reinicio", u"Volver al menú inicial"},
-    FilaBoton{u"Abrir", u""},
-    FilaBoton{u"Guardar", u"Guardar esta tasación"},
-    FilaBoton{u"Importar", u""},
-    FilaBoton{u"Exportar", u""},
-    FilaBoton{u"Ayuda", u"Manual de Valmerix"},
-    FilaBoton{u"Extensión", u"Módulo de extensión"},
-    FilaBoton{u"Listados", u""},
-    FilaBoton{u"Testigos", u""},
+    FilaOrden{u"Informe", u"Redactar el informe de esta tasación", u"F9"},
+    FilaOrden{u"Cerrar visor", u"Cerrar el visor del informe", u"Shift+F9"},
+    FilaOrden{u"Configuración", u"Edades, moneda, cabecera y procesador de textos", u"F12"},
+    FilaOrden{u"Reinicio", u"Volver al menú inicial", u"Ctrl+R"},
+    FilaOrden{u"Abrir", u"", u"Ctrl+O"},
+    FilaOrden{u"Guardar", u"Guardar esta tasación", u"Ctrl+S"},
+    FilaOrden{u"Importar", u"", u"Ctrl+I"},
+    FilaOrden{u"Exportar", u"", u"Ctrl+E"},
+    FilaOrden{u"Ayuda", u"Manual de Valmerix", u"F1"},
+    FilaOrden{u"Extensión", u"Módulo de extensión", u"Ctrl+M"},
+    FilaOrden{u"Listados", u"", u"Ctrl+L"},
+    FilaOrden{u"Testigos", u"", u"Ctrl+T"},
 };
 
 constexpr std::array<QStringView, 3> kGrupos = {u"Navegación", u"Datos", u"Sistema"};
@@ -38,6 +32,11 @@ constexpr std::array kColores = {
 };
 
 } // namespace
+
+std::span<const FilaOrden> OrdenesDePaleta()
+{
+    return kBotonera;
+}
 
 ColoresForma ColoresDe(QStringView forma)
 {
@@ -57,7 +56,7 @@ Form2::Form2(const QString& forma)
     for (int i = 0; i < static_cast<int>(kGrupos.size()); ++i)
         Añadir<Etiqueta>(Indice(u"Label1", i)).setCaption(kGrupos[static_cast<size_t>(i)].toString());
     for (int i = 0; i < static_cast<int>(kBotonera.size()); ++i) {
-        const FilaBoton& fila = kBotonera[static_cast<size_t>(i)];
+        const FilaOrden& fila = kBotonera[static_cast<size_t>(i)];
         auto& boton = Añadir<Boton>(Indice(u"Botonera", i));
         boton.setCaption(fila.titulo.toString());
         boton.setEnabled(!fila.ayuda.isEmpty());

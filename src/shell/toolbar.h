@@ -2,6 +2,8 @@
 
 #include "controls/window.h"
 
+#include <span>
+
 namespace valmerix {
 
 /// The commands of the toolbar, by the index of their button.
@@ -19,6 +21,16 @@ enum class OrdenPaleta {
     Listados,
     Testigos,
 };
+
+/// How a command is offered.
+struct FilaOrden
+{
+    QStringView titulo;
+    QStringView ayuda; ///< empty while the command is still to come
+    QStringView atajo; ///< its key
+};
+/// All twelve, by the index of their button.
+std::span<const FilaOrden> OrdenesDePaleta();
 
 /// The colours of a kind, each as "red,green,blue"; empty for a window that has none.
 struct ColoresForma

@@ -1,5 +1,6 @@
 #include "ui/toolbar_view.h"
 
+#include "shell/toolbar.h"
 #include "shell/window_places.h"
 #include "ui/caption_bar.h"
 #include "ui/icons.h"
@@ -12,7 +13,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
-#include <QShortcut>
 #include <QToolButton>
 
 namespace valmerix {
@@ -25,22 +25,11 @@ constexpr int kAltoTitulo = 42;
 constexpr QSize kIcono(30, 22); // wider than high: air between picture and words
 constexpr int kAnchoOrden = 152;
 
-struct OrdenVisible
-{
-    QStringView icono;
-    QStringView atajo;
-};
-
 // By the index of Botonera.
-constexpr OrdenVisible kOrdenes[] = {
-    {u"informe", u"F9"},       {u"cerrar_visor", u"Shift+F9"}, {u"opciones", u"F12"},
-    {u"reinicio", u"Ctrl+R"},  {u"abrir_filtros", u"Ctrl+O"},  {u"guardar", u"Ctrl+S"},
-    {u"importar", u"Ctrl+I"},  {u"exportar", u"Ctrl+E"},       {u"ayuda", u"F1"},
-    {u"extension", u"Ctrl+M"}, {u"listados", u"Ctrl+L"},       {u"testigos", u"Ctrl+T"},
+constexpr QStringView kIconos[] = {
+    u"informe",  u"cerrar_visor", u"opciones", u"reinicio",  u"abrir_filtros", u"guardar",
+    u"importar", u"exportar",     u"ayuda",    u"extension", u"listados",      u"testigos",
 };
-
-// Every window answers it itself, with the page that tells of it.
-constexpr QStringView kTeclaAyuda = u"F1";
 
 struct GrupoOrdenes
 {
@@ -146,21 +135,15 @@ QWidget* VistaPaleta::Titulo()
 QWidget* VistaPaleta::CrearOrden(int indice)
 {
     auto& orden = ventana()->boton(Ventana::Indice(u"Botonera", indice));
-    const OrdenVisible& visible = kOrdenes[indice];
     auto* boton = new QToolButton(this);
     boton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    boton->setIcon(Icono(visible.icono.toString()));
+    boton->setIcon(Icono(kIconos[indice].toString()));
     boton->setIconSize(kIcono);
     boton->setAutoRaise(true);
     boton->setFocusPolicy(Qt::NoFocus);
     boton->setFixedWidth(kAnchoOrden);
-    boton->setProperty("atajo", visible.atajo.toString());
+    boton->setProperty("atajo", OrdenesDePaleta()[static_cast<size_t>(indice)].atajo.toString());
     enlazador().AtarBoton(orden, boton);
-    if (visible.atajo == kTeclaAyuda)
-        return boton;
-    auto* atajo = new QShortcut(QKeySequence(visible.atajo.toString()), this);
-    atajo->setContext(Qt::ApplicationShortcut);
-    connect(atajo, &QShortcut::activated, boton, [boton] { boton->click(); });
     return boton;
 }
 

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QShortcut>
 #include <QWindow>
 
 namespace valmerix {
@@ -47,11 +48,24 @@ VistaVentana::VistaVentana(Ventana& ventana, Marco marco)
         raise();
         activateWindow();
     });
+    for (const Atajo& atajo : ventana.atajos())
+        PonerAtajo(atajo);
 }
 
 VistaVentana::~VistaVentana()
 {
     Soltar();
+}
+
+void VistaVentana::PonerAtajo(const Atajo& atajo)
+{
+    auto* tecla = new QShortcut(QKeySequence(atajo.teclas), this);
+    tecla->setContext(Qt::ApplicationShortcut);
+    tecla->setAutoRepeat(false); // held down, it is one order
+    connect(tecla, &QShortcut::activated, this, [this, orden = atajo.orden] {
+        if (ventana_)
+            Protegido(orden);
+    });
 }
 
 void VistaVentana::Soltar()

@@ -50,6 +50,7 @@ protected:
     virtual QRect LugarPosible(QRect pedido) const;
 
 private:
+    void PonerAtajo(const Atajo& atajo);
     void MostrarTitulo();
     void MostrarLugar();
     void MostrarEstado();

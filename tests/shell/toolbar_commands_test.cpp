@@ -8,6 +8,7 @@
 #include "support/test_ports.h"
 #include "valuation/case_form.h"
 
+#include <algorithm>
 #include <functional>
 
 namespace valmerix {
@@ -226,6 +227,26 @@ TEST_F(ToolbarCommands, AnExtensionThatFailsIsToldAndTheNextCallWorks)
     cargador.trabajo = [&](auto&, auto*&, auto*&, auto*&, const QString&) { corrio = true; };
     PulsarExtension();
     EXPECT_TRUE(corrio);
+}
+
+TEST_F(ToolbarCommands, TheExtensionsKeyHandsItTheToolbarThoughItIsClosed)
+{
+    forma().boton(u"SSCommand3").Pulsar();
+    ASSERT_EQ(aplicacion.paleta(), nullptr);
+    const auto& atajos = forma().atajos();
+    const auto tecla = std::find_if(atajos.begin(), atajos.end(),
+                                    [](const Atajo& atajo) { return atajo.teclas == u"Ctrl+M"; });
+    ASSERT_NE(tecla, atajos.end());
+    tecla->orden();
+    EXPECT_EQ(dialogos.mensajes.size(), 1U) << "without a module, its message";
+    QString recibida;
+    cargador.trabajo = [&](VentanaExtension& Form2, VentanaExtension*& Visor, auto&&...) {
+        recibida = Form2.nombre();
+        Visor = nullptr;
+    };
+    tecla->orden();
+    EXPECT_EQ(recibida, u"Form2"_s);
+    EXPECT_EQ(aplicacion.paleta(), nullptr) << "closed it was, closed it stays";
 }
 
 TEST_F(ToolbarCommands, AnExtensionMayRunTheToolbarButNotItself)

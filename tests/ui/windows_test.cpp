@@ -245,17 +245,6 @@ TEST_F(Windows, ACommandOfTheToolbarLeavesTheFieldInHandFirst)
     EXPECT_EQ(forma.conFoco(), &forma.control(u"BoxConst")) << "and comes back to it";
 }
 
-TEST_F(Windows, TheToolbarsShortcutsWorkInTheCaseWindow)
-{
-    AbrirPiso();
-    auto& forma = *aplicacion.FormularioActual();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Vista(forma)));
-    forma.lista(u"cboNombreTasador").Elegir(0);
-    QTest::keyClick(Vista(forma).enlazador().de(u"BoxMun"), Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(aplicacion.compartido().NumeroTasacionActual, 5);
-    EXPECT_TRUE(Boton_(Vista(*aplicacion.paleta()), u"Botonera(5)"_s).toolTip().endsWith(u"(Ctrl+S)"));
-}
-
 TEST_F(Windows, TheRecordOfCompanyAndValuersIsFilledIn)
 {
     AbrirPiso();
