@@ -7,6 +7,8 @@
 #include <QJsonDocument>
 #include <QSaveFile>
 #include <algorithm>
+#include <tuple>
+#include <vector>
 
 namespace valmerix::FicheroBorrador {
 
@@ -30,6 +32,22 @@ QByteArray Huella(QByteArrayView datos)
                                     QCryptographicHash::Sha256)
                .toHex() +
            '\n';
+}
+
+/// What decides which drafts are kept.
+struct Edad
+{
+    QString fichero;
+    bool enUso = false;
+    bool completo = false;
+    QDateTime cuando; ///< of a damaged one, when it was written
+};
+
+Edad EdadDe(const QString& fichero, const QString& enUso)
+{
+    const std::optional<Borrador> borrador = Leer(fichero);
+    return {fichero, fichero == enUso, borrador.has_value(),
+            borrador ? borrador->cuando : QFileInfo(fichero).lastModified()};
 }
 
 Borrador DeJson(const QJsonObject& objeto)
@@ -105,6 +123,21 @@ QString Escribir(const QString& fichero, const QByteArray& contenido)
     if (salida.open(QIODevice::WriteOnly) && salida.write(contenido) == contenido.size() && salida.commit())
         return {};
     return u"No se puede escribir «%1»: %2."_s.arg(fichero, salida.errorString());
+}
+
+void RetirarViejos(const QString& carpeta, const QString& enUso)
+{
+    if (EnCarpeta(carpeta).size() <= kGuardados)
+        return;
+    std::vector<Edad> edades;
+    for (const QString& nombre : EnCarpeta(carpeta))
+        edades.push_back(EdadDe(carpeta + u'/' + nombre, enUso));
+    std::sort(edades.begin(), edades.end(), [](const Edad& una, const Edad& otra) {
+        return std::tie(una.enUso, una.completo, una.cuando) >
+               std::tie(otra.enUso, otra.completo, otra.cuando);
+    });
+    for (size_t i = kGuardados; i < edades.size(); ++i)
+        QFile::remove(edades[i].fichero);
 }
 
 std::optional<Borrador> MasReciente(const QString& carpeta)

@@ -42,6 +42,12 @@ std::optional<Borrador> Leer(const QString& fichero);
 /// Whole or not at all; makes the folder. Gives what has failed, in words; empty when nothing has.
 QString Escribir(const QString& fichero, const QByteArray& contenido);
 
+/// How many drafts of a folder are kept.
+inline constexpr int kGuardados = 20;
+/// Takes drafts off a folder, down to `kGuardados`: damaged ones first, then the oldest, never the one in
+/// use.
+void RetirarViejos(const QString& carpeta, const QString& enUso);
+
 /// The newest complete one of a folder.
 std::optional<Borrador> MasReciente(const QString& carpeta);
 

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QMutexLocker>
 #include <QPointer>
 #include <utility>
@@ -114,6 +115,8 @@ void GuardaBorradores::Escribir()
         fichero_ = FicheroBorrador::NombreLibre(carpeta_);
     hilo_.start([borrador = retrato_(), fichero = fichero_, resultado = resultado_] {
         const QString fallo = FicheroBorrador::Escribir(fichero, FicheroBorrador::Contenido(borrador));
+        if (fallo.isEmpty())
+            FicheroBorrador::RetirarViejos(QFileInfo(fichero).path(), fichero);
         const QMutexLocker guarda(&resultado->cerrojo);
         resultado->fallo = fallo;
     });

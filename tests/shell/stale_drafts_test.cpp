@@ -2,6 +2,8 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
+#include <algorithm>
 
 namespace valmerix {
 namespace {
@@ -82,6 +84,65 @@ TEST_F(BorradoresViejos, AStoredCaseThatIsGoneComesBackAsANewOne)
     EXPECT_EQ(aplicacion->compartido().NumeroTasacionActual, 0);
     aplicacion->EjecutarOrden(OrdenPaleta::Guardar);
     EXPECT_EQ(Leer(u"SELECT Situacion FROM Viviendas"_s).Texto(u"Situacion"), u"Calle Mayor, 5"_s);
+}
+
+TEST_F(BorradoresViejos, TheNewestTwentyAreKeptAndTheOthersGoWithoutAWord)
+{
+    UnPisoGuardado();
+    Teclear(u"BoxSit", u"Calle Mayor"_s);
+    Acabar();
+    Borrador viejo = FicheroBorrador::MasReciente(borradores()).value();
+    const QDateTime ahora = viejo.cuando;
+    QFile::remove(viejo.fichero);
+    for (int dia = 1; dia <= 25; ++dia) {
+        viejo.cuando = ahora.addDays(-dia);
+        const QString fichero = FicheroBorrador::NombreLibre(borradores());
+        ASSERT_EQ(FicheroBorrador::Escribir(fichero, FicheroBorrador::Contenido(viejo)), QString());
+    }
+    for (int i = 0; i < 30; ++i) { // damaged, and written later than any
+        QFile roto(FicheroBorrador::NombreLibre(borradores()));
+        ASSERT_TRUE(roto.open(QIODevice::WriteOnly));
+    }
+    Arrancar();
+    dialogos.mensajes.clear();
+    aplicacion->NuevoCaso(1);
+    EXPECT_EQ(EnDisco().size(), 55) << "nothing goes before a newer one stands";
+    Teclear(u"BoxSit", u"La última"_s);
+    Acabar();
+    EXPECT_EQ(EnDisco().size(), FicheroBorrador::kGuardados);
+    QSet<qint64> dias;
+    for (const QString& nombre : EnDisco()) {
+        const auto borrador = FicheroBorrador::Leer(borradores() + u'/' + nombre);
+        ASSERT_TRUE(borrador) << qPrintable(nombre);
+        dias.insert(borrador->cuando.daysTo(ahora));
+    }
+    EXPECT_EQ(dias.size(), FicheroBorrador::kGuardados);
+    EXPECT_EQ(*std::max_element(dias.begin(), dias.end()), FicheroBorrador::kGuardados - 1);
+    EXPECT_TRUE(dialogos.mensajes.empty());
+    Arrancar();
+    EXPECT_TRUE(recuperar().ToolTip().startsWith(u"Apartamento, La última,"_s));
+}
+
+TEST_F(BorradoresViejos, TheDraftInUseStaysThoughTheClockWasPutBack)
+{
+    UnPisoGuardado();
+    Teclear(u"BoxSit", u"Calle Mayor"_s);
+    Acabar();
+    const Borrador viejo = FicheroBorrador::MasReciente(borradores()).value();
+    for (int i = 0; i < FicheroBorrador::kGuardados; ++i) {
+        FicheroBorrador::Escribir(FicheroBorrador::NombreLibre(borradores()),
+                                  FicheroBorrador::Contenido(viejo));
+    }
+    reloj.fecha = reloj.fecha.addYears(-1);
+    Arrancar();
+    aplicacion->NuevoCaso(1);
+    Teclear(u"BoxSit", u"La de hoy"_s);
+    Acabar();
+    EXPECT_EQ(EnDisco().size(), FicheroBorrador::kGuardados);
+    QStringList situaciones;
+    for (const QString& nombre : EnDisco())
+        situaciones << FicheroBorrador::Leer(borradores() + u'/' + nombre)->texto(u"BoxSit");
+    EXPECT_TRUE(situaciones.contains(u"La de hoy"_s));
 }
 
 TEST_F(BorradoresViejos, AValuerWhoIsGoneHasToBeChosenAgain)
