@@ -26,6 +26,16 @@ QDate DiaDe(const QString& nombre)
     return QDate::fromString(nombre.chopped(kSufijo.size()).sliced(kPrefijo.size()), Qt::ISODate);
 }
 
+// A copying that was killed leaves its provisional file behind, and the engine's journal beside it.
+void BarrerRestos(const QString& carpeta)
+{
+    QDir dir(carpeta);
+    for (const QString& resto : dir.entryList(
+             {kPrefijo.toString() + u'*' + kSufijo.toString() + kCopiaProvisional.toString() + u'*'},
+             QDir::Files))
+        dir.remove(resto);
+}
+
 } // namespace
 
 CopiaDiaria::CopiaDiaria(const EstadoCompartido& compartido, Dialogos& dialogos, const Reloj& reloj)
@@ -52,6 +62,7 @@ void CopiaDiaria::AntesDeEscribir()
         return;
     const QString copias = carpeta(compartido_.RutaBaseDatos);
     const QString destino = copias + u'/' + nombre(hoy);
+    BarrerRestos(copias);
     try {
         if (!QFileInfo::exists(destino))
             CopiarBaseDatos(compartido_.RutaBaseDatos, destino);

@@ -41,7 +41,7 @@ bool EstaIntegra(const std::string& fichero)
 
 void CopiarBaseDatos(const QString& origen, const QString& destino)
 {
-    const QString provisional = destino + u".parcial"_s;
+    const QString provisional = destino + kCopiaProvisional.toString();
     QFile::remove(provisional);
     try {
         if (!QDir().mkpath(QFileInfo(destino).path()))

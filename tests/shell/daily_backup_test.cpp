@@ -72,6 +72,21 @@ TEST_F(CopiaDiariaTest, AFailedCopyIsToldOnceAndTheWriteGoesOn)
     EXPECT_EQ(EmpresaEn(base.ruta()), u"Dos"_s);
 }
 
+TEST_F(CopiaDiariaTest, WhatAKilledCopyingLeftIsSweptByTheNext)
+{
+    const QString copias = CopiaDiaria::carpeta(base.ruta());
+    ASSERT_TRUE(QDir().mkpath(copias));
+    for (const QString& nombre :
+         {u"valmerix-2026-11-18.mdb.parcial"_s, u"valmerix-2026-11-18.mdb.parcial-journal"_s,
+          u"valmerix-2026-11-18.mdb"_s, u"notas.parcial"_s}) {
+        QFile fichero(copias + u'/' + nombre);
+        ASSERT_TRUE(fichero.open(QIODevice::WriteOnly));
+    }
+    base.Ejecutar(u"UPDATE Empresa SET Nombre = 'Uno'"_s);
+    EXPECT_EQ(Copias(),
+              QStringList({u"notas.parcial"_s, u"valmerix-2026-11-18.mdb"_s, u"valmerix-2026-11-20.mdb"_s}));
+}
+
 TEST_F(CopiaDiariaTest, ADamagedDatabaseGivesNoCopy)
 {
     QFile fichero(base.ruta());
