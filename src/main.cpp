@@ -17,6 +17,7 @@ int main(int argc, char* argv[])
     valmerix::RelojQt reloj;
     valmerix::SistemaQt sistema;
     valmerix::CapturaQt captura;
+    sistema.setAlTerminar([&captura] { captura.Limpiar(); });
     valmerix::PantallaQt pantalla;
     valmerix::ImpresionQt impresion(dialogos);
     pantalla.RecordarLugares(sistema.carpetaPrograma() + QStringLiteral("/Datos/ventanas.json"));

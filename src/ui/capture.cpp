@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 
 namespace valmerix {
@@ -77,12 +78,10 @@ std::optional<QString> CapturaQt::Guardar(const QImage& imagen)
 {
     if (imagen.isNull())
         return std::nullopt;
-    if (!carpeta_)
-        carpeta_ = std::make_unique<QTemporaryDir>();
-    const QString destino = carpeta_->filePath(u"captura%1.bmp"_s.arg(++numero_));
+    const QString destino = carpeta_.RutaNueva();
     if (imagen.save(destino, "BMP"))
         return destino;
-    Avisar(u"No se puede guardar la imagen en «%1»."_s.arg(carpeta_->path()));
+    Avisar(u"No se puede guardar la imagen en «%1»."_s.arg(QFileInfo(destino).path()));
     return std::nullopt;
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "common/ports.h"
+#include "ui/capture_folder.h"
 #include "ui/capture_source.h"
 
-#include <QTemporaryDir>
 #include <functional>
 #include <memory>
 
@@ -21,6 +21,9 @@ public:
     CapturaQt();
     CapturaQt(Fabrica camara, Fabrica escaner);
 
+    /// Deletes the pictures handed on so far.
+    void Limpiar() { carpeta_.Retirar(); }
+
     std::optional<QString> LoadCapture(FuenteImagen fuente, const QString& carpetaPrograma) override;
 
 private:
@@ -30,8 +33,7 @@ private:
 
     Fabrica camara_;
     Fabrica escaner_;
-    std::unique_ptr<QTemporaryDir> carpeta_;
-    int numero_ = 0;
+    CarpetaCapturas carpeta_;
 };
 
 } // namespace valmerix

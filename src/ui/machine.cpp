@@ -142,6 +142,8 @@ void SistemaQt::Aplazar(int milisegundos, std::function<void()> tarea)
 
 void SistemaQt::TerminarProceso(int codigo)
 {
+    if (alTerminar_)
+        alTerminar_();
     cerrojo_.reset();
     // No destructor runs: windows must not be asked to close, nothing is to be saved.
     std::quick_exit(codigo);

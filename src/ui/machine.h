@@ -3,7 +3,9 @@
 #include "common/ports.h"
 
 #include <QLockFile>
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace valmerix {
 
@@ -39,9 +41,14 @@ public:
     void Aplazar(int milisegundos, std::function<void()> tarea) override;
     [[noreturn]] void TerminarProceso(int codigo) override;
 
+    /// What is still to be tidied up when the process ends through `TerminarProceso`, where no destructor
+    /// runs.
+    void setAlTerminar(std::function<void()> tarea) { alTerminar_ = std::move(tarea); }
+
 private:
     QString carpeta_;
     std::unique_ptr<QLockFile> cerrojo_;
+    std::function<void()> alTerminar_;
 };
 
 } // namespace valmerix
