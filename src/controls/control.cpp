@@ -54,20 +54,44 @@ void Boton::Pulsar()
         Q_EMIT Click();
 }
 
-void Casilla::setValue(int valor)
+bool Casilla::Poner(int valor)
 {
     const int nuevo = valor != 0 ? 1 : 0;
     if (nuevo == valor_)
-        return;
+        return false;
     valor_ = nuevo;
     Q_EMIT PresentacionCambiada();
-    Q_EMIT Click();
+    return true;
+}
+
+void Casilla::setValue(int valor)
+{
+    if (Poner(valor))
+        Q_EMIT Click();
 }
 
 void Casilla::Pulsar()
 {
     if (Enabled())
         setValue(1 - valor_);
+}
+
+void OpcionSuelta::Agrupar(const std::vector<OpcionSuelta*>& opciones)
+{
+    for (const OpcionSuelta* una : opciones) {
+        connect(una, &Casilla::Click, una, [una, opciones] {
+            for (OpcionSuelta* otra : opciones) {
+                if (una->Value() == 1 && otra != una)
+                    otra->Poner(0);
+            }
+        });
+    }
+}
+
+void OpcionSuelta::Pulsar()
+{
+    if (Enabled())
+        setValue(1);
 }
 
 void Temporizador::Tic()

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <vector>
 
 namespace valmerix {
 
@@ -91,13 +92,30 @@ public:
     /// Any value but 0 is 1. Raises Click when the value changes, as the user's click does.
     void setValue(int valor);
     /// The user's click: flips the value; nothing while disabled.
-    void Pulsar();
+    virtual void Pulsar();
 
 Q_SIGNALS:
     void Click();
 
+protected:
+    /// Takes the value without a Click; false when it was so already.
+    bool Poner(int valor);
+
 private:
     int valor_ = 0;
+};
+
+/// One option of several that go by names of their own; setting it clears the others, which raise no Click.
+class OpcionSuelta : public Casilla
+{
+    Q_OBJECT
+
+public:
+    using Casilla::Casilla;
+    /// From now on at most one of them is set.
+    static void Agrupar(const std::vector<OpcionSuelta*>& opciones);
+    /// The user's click sets it and never clears it.
+    void Pulsar() override;
 };
 
 /// A clock of the window; whoever shows the window makes it tick every `Interval` while enabled.

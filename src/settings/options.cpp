@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <array>
 
 namespace valmerix {
@@ -96,17 +97,22 @@ void Opciones::CrearControles()
     CrearMonedaYCabecera();
     Añadir<Casilla>(u"chkMembrete"_s).setCaption(u"Mostrar Membrete"_s);
     Añadir<Imagen>(u"imgLogo"_s).setCaption(u"Logotipo"_s);
-    // The three sources are single options of one group; the group's name is ours.
-    auto& fuentes = Añadir<GrupoOpciones>(u"optFuente"_s);
-    QStringList titulos;
-    for (const FilaFuente& fila : kFuentes)
-        titulos << fila.titulo.toString();
-    fuentes.setTitulos(titulos);
-    fuentes.Elegir(0);
+    CrearFuentes();
     Añadir<Boton>(u"cmdLogo"_s).setCaption(u"Cargar Imagen"_s);
     Añadir<Boton>(u"Command1"_s).setCaption(u"Borrar Imagen"_s);
     Añadir<Boton>(u"cmdOK"_s).setCaption(u"Guardar"_s);
     Mover(QRect(0, 0, 760, 620));
+}
+
+void Opciones::CrearFuentes()
+{
+    std::vector<OpcionSuelta*> fuentes;
+    for (const FilaFuente& fila : kFuentes) {
+        fuentes.push_back(&Añadir<OpcionSuelta>(fila.control.toString()));
+        fuentes.back()->setCaption(fila.titulo.toString());
+    }
+    OpcionSuelta::Agrupar(fuentes);
+    fuentes.front()->setValue(1);
 }
 
 void Opciones::CrearEdades()
@@ -211,9 +217,11 @@ QString Opciones::rutaLogo() const
 
 void Opciones::CapturarLogo()
 {
-    const int elegida = std::max(opciones(u"optFuente").elegida(), 0);
-    const auto fuente = kFuentes.at(static_cast<size_t>(elegida)).fuente;
-    if (const auto imagen = captura_.LoadCapture(fuente, sistema_.carpetaPrograma()))
+    const auto* const elegida = std::find_if(
+        kFuentes.begin(), kFuentes.end(), [this](const FilaFuente& fila) { return marcada(fila.control); });
+    if (elegida == kFuentes.end())
+        return;
+    if (const auto imagen = captura_.LoadCapture(elegida->fuente, sistema_.carpetaPrograma()))
         como<Imagen>(u"imgLogo").setPicture(*imagen);
 }
 

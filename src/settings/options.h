@@ -36,6 +36,7 @@ protected:
 private:
     void CrearControles();
     void CrearEdades();
+    void CrearFuentes();
     void CrearMonedaYCabecera();
     void ConectarControles();
     void ConectarLimite(QStringView nombre, int limite);

@@ -106,7 +106,8 @@ QWidget* VistaOpciones::Logotipo()
     QWidget* logo = enlazador().Crear(u"imgLogo", panel);
     logo->setMinimumSize(kLogo);
     panel->cuerpo()->addWidget(logo, 1);
-    panel->cuerpo()->addWidget(enlazador().Crear(u"optFuente", panel));
+    for (const QStringView fuente : {u"optFile", u"optCamera", u"optScanner"})
+        panel->cuerpo()->addWidget(enlazador().Crear(fuente, panel));
     auto* ordenes = new QHBoxLayout;
     ordenes->addWidget(enlazador().Crear(u"cmdLogo", panel));
     ordenes->addWidget(enlazador().Crear(u"Command1", panel));

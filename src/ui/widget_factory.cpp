@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabWidget>
 
 namespace valmerix {
@@ -45,11 +46,15 @@ QWidget* DeBoton(Boton& boton, QWidget* padre)
 
 QWidget* DeCasilla(Casilla& casilla, QWidget* padre)
 {
-    auto* nuevo = new QCheckBox(padre);
+    QAbstractButton* nuevo = nullptr;
+    if (qobject_cast<OpcionSuelta*>(&casilla))
+        nuevo = new QRadioButton(padre);
+    else
+        nuevo = new QCheckBox(padre);
     const auto mostrar = [nuevo, &casilla] { nuevo->setChecked(casilla.Value() == 1); };
     QObject::connect(&casilla, &Control::PresentacionCambiada, nuevo, mostrar);
-    QObject::connect(nuevo, &QCheckBox::clicked, &casilla, [nuevo, &casilla] {
-        const QPointer<QCheckBox> vivo(nuevo);
+    QObject::connect(nuevo, &QAbstractButton::clicked, &casilla, [nuevo, &casilla] {
+        const QPointer<QAbstractButton> vivo(nuevo);
         const QPointer<Casilla> viva(&casilla);
         Protegido([&] { casilla.Pulsar(); });
         if (vivo && viva)

@@ -51,6 +51,28 @@ TEST(Casilla, TheUsersClickFlipsItUnlessItIsDisabled)
     EXPECT_EQ(casilla.Value(), 1);
 }
 
+TEST(OpcionSuelta, SettingOneClearsTheOthersWithoutTheirClick)
+{
+    OpcionSuelta fichero(u"optFile"_s);
+    OpcionSuelta camara(u"optCamera"_s);
+    OpcionSuelta escaner(u"optScanner"_s);
+    OpcionSuelta::Agrupar({&fichero, &camara, &escaner});
+    QStringList clics;
+    for (const auto* una : {&fichero, &camara, &escaner})
+        QObject::connect(una, &Casilla::Click, una, [una, &clics] { clics << una->nombre(); });
+    fichero.setValue(1);
+    camara.Pulsar();
+    camara.Pulsar();
+    EXPECT_EQ(fichero.Value(), 0);
+    EXPECT_EQ(camara.Value(), 1);
+    EXPECT_EQ(clics, QStringList({u"optFile"_s, u"optCamera"_s}));
+    camara.setValue(0);
+    EXPECT_EQ(fichero.Value() + camara.Value() + escaner.Value(), 0) << "none may be set";
+    escaner.setEnabled(false);
+    escaner.Pulsar();
+    EXPECT_EQ(escaner.Value(), 0);
+}
+
 TEST(Boton, DisabledItDoesNotClick)
 {
     Boton boton(u"SSCommand7"_s);

@@ -214,13 +214,24 @@ TEST_F(OpcionesTest, ACapturedLogoIsSavedBesideTheDatabase)
     fichero.close();
     capturada = nuevo;
     const auto ventana = Abrir();
-    ventana->opciones(u"optFuente").Pulsar(1);
+    ventana->casilla(u"optCamera").Pulsar();
     ventana->boton(u"cmdLogo").Pulsar();
     EXPECT_EQ(fuentes, std::vector<FuenteImagen>{FuenteImagen::Camara});
     ventana->Cerrar();
     QFile guardado(base.carpeta() + u"/Datos/Logo.bmp"_s);
     ASSERT_TRUE(guardado.open(QIODevice::ReadOnly));
     EXPECT_EQ(guardado.readAll(), QByteArray("BMnuevo"));
+}
+
+TEST_F(OpcionesTest, TheSourceIsTheFirstOneSetAndNoneWithoutOne)
+{
+    const auto ventana = Abrir();
+    ventana->boton(u"cmdLogo").Pulsar();
+    ventana->casilla(u"optScanner").Pulsar();
+    ventana->boton(u"cmdLogo").Pulsar();
+    ventana->casilla(u"optScanner").setValue(0);
+    ventana->boton(u"cmdLogo").Pulsar();
+    EXPECT_EQ(fuentes, std::vector<FuenteImagen>({FuenteImagen::Fichero, FuenteImagen::Escaner}));
 }
 
 TEST_F(OpcionesTest, ADatabaseOfAnotherNameIsNeverWrittenOverByALogo)
