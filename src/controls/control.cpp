@@ -108,6 +108,13 @@ void Imagen::setPicture(const QString& ruta)
     Q_EMIT PresentacionCambiada();
 }
 
+bool Imagen::CopiarLoMostrado()
+{
+    bool copiada = false;
+    Q_EMIT CopiaPedida(copiada);
+    return copiada;
+}
+
 void BarraProgreso::setValue(double porcentaje)
 {
     if (valor_ == porcentaje)

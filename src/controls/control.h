@@ -149,9 +149,13 @@ public:
     const QString& Picture() const { return ruta_; }
     void setPicture(const QString& ruta);
     void Pulsar() { Q_EMIT Click(); }
+    /// Puts what is on the screen into the clipboard, wherever its file is by now; false while nothing is.
+    bool CopiarLoMostrado();
 
 Q_SIGNALS:
     void Click();
+    /// Whoever shows the picture answers.
+    void CopiaPedida(bool& copiada);
 
 private:
     QString ruta_;

@@ -3,7 +3,9 @@
 #include "ui/application.h"
 #include "ui/theme.h"
 
+#include <QClipboard>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -31,6 +33,12 @@ CuadroImagen::CuadroImagen(Imagen& imagen, QWidget* padre)
     });
     connect(&lector_, &LectorImagenes::Leida, this, &CuadroImagen::Poner);
     connect(&imagen, &Control::PresentacionCambiada, this, &CuadroImagen::Leer);
+    connect(&imagen, &Imagen::CopiaPedida, this, [this](bool& copiada) {
+        if (cuadro_.isNull())
+            return;
+        QGuiApplication::clipboard()->setPixmap(cuadro_);
+        copiada = true;
+    });
     Poner({});
     Leer();
 }

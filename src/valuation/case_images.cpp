@@ -44,14 +44,17 @@ int FilaDe(const Rejilla& imagenes, const QString& nombre)
     return 0;
 }
 
-void Editar(Rejilla& imagenes, int fila, const QString& ruta, const QString& nombre)
+// Cell by cell: a path may hold a tabulator, at which a line would be split.
+void Poner(Rejilla& imagenes, int fila, const QString& ruta, const QString& nombre)
 {
+    imagenes.setRedraw(false);
     if (fila == 0) {
-        imagenes.AddItem(ruta + u'\t' + nombre);
-        return;
+        imagenes.AddItem({});
+        fila = imagenes.Rows() - 1;
     }
     imagenes.setTextMatrix(fila, kColumnaRuta, ruta);
     imagenes.setTextMatrix(fila, kColumnaNombre, nombre);
+    imagenes.setRedraw(true);
 }
 
 } // namespace
@@ -70,7 +73,7 @@ void Formulario::CargaGridImagenesAsociadas()
             u"Empresa"_s, u"SELECT Ruta, Nombre FROM ImagenesAsociadas WHERE NombreTasador = '"_s + tasador +
                               u"' AND NumeroTasacion = "_s + QString::number(numero));
         for (qint32 i = 1; i <= filas.RecordCount(); ++i)
-            imagenes.AddItem(filas.ValorRegistroGrid(i));
+            Poner(imagenes, 0, filas.Texto(u"Ruta", i), filas.Texto(u"Nombre", i));
     }
     como<Imagen>(u"Imagen").setPicture({});
     campo(u"txtRutaImagen").setText({});
@@ -86,7 +89,7 @@ void Formulario::ActualizarGrid(QStringView Accion)
     Rejilla& imagenes = rejilla(u"GridImagen");
     const int fila = FilaDe(imagenes, nombre);
     if (Accion == u"Editar") {
-        Editar(imagenes, fila, ruta, nombre);
+        Poner(imagenes, fila, ruta, nombre);
     } else if (Accion == u"Borrar" && fila > 0) {
         imagenes.RemoveItem(fila);
     }
@@ -121,10 +124,13 @@ void Formulario::AlCambiarRutaImagen()
     como<Imagen>(u"Imagen").setPicture(HayFichero(ruta) ? ruta : QString());
 }
 
+// The file gives it as fine as it is; when it has been moved since, what is shown is copied.
 void Formulario::AlCopiarImagen()
 {
-    const QString imagen = como<Imagen>(u"Imagen").Picture();
-    if (imagen.isEmpty() || !servicios_.sistema.CopiarImagenAlPortapapeles(imagen))
+    auto& imagen = como<Imagen>(u"Imagen");
+    const QString ruta = imagen.Picture();
+    if (ruta.isEmpty() ||
+        (!servicios_.sistema.CopiarImagenAlPortapapeles(ruta) && !imagen.CopiarLoMostrado()))
         return;
     servicios_.dialogos.Mensaje(u"La imagen seleccionada se ha copiado al portapapeles"_s, u"Aviso"_s,
                                 IconoMensaje::Informacion);

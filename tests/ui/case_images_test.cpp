@@ -223,6 +223,30 @@ TEST_F(CaseImages, OddAndBrokenFilesShowThePictureOrNothing)
     }
 }
 
+TEST_F(CaseImages, APictureWhoseFileHasBeenMovedSinceIsCopiedAsItIsShown)
+{
+    const QString ruta = carpeta.Guardar(u"fachada.png"_s, Mitades({120, 90}), "PNG");
+    Escribir(u"txtRutaImagen", ruta);
+    ASSERT_TRUE(EsperarImagen());
+    ASSERT_TRUE(QFile::rename(ruta, carpeta.ruta(u"movida.png"_s)));
+    entorno.sistema.imagenLegible = false; // as the machine finds it now
+    QGuiApplication::clipboard()->setText(u"de antes"_s);
+    Pulsar(u"SSCommand9");
+    EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(120, 90));
+    EXPECT_EQ(entorno.dialogos.mensajes.size(), 1U);
+}
+
+TEST_F(CaseImages, AFileThatNeverWasAPictureLeavesTheClipboardAsItIs)
+{
+    Escribir(u"txtRutaImagen", carpeta.Escribir(u"rota.png"_s, "nada"));
+    ASSERT_TRUE(SigueSinImagen());
+    entorno.sistema.imagenLegible = false;
+    QGuiApplication::clipboard()->setText(u"de antes"_s);
+    Pulsar(u"SSCommand9");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"de antes");
+    EXPECT_TRUE(entorno.dialogos.mensajes.empty());
+}
+
 TEST_F(CaseImages, OnlyTheLastPictureAskedForIsShown)
 {
     const QString grande = carpeta.Guardar(u"grande.png"_s, Mitades({3000, 2000}), "PNG");

@@ -204,6 +204,27 @@ TEST_F(ImagenesCaso, ThePreviewGoesToTheClipboardAndABoxSaysSo)
     EXPECT_EQ(piso.dialogos.mensajes[0].titulo, u"Aviso"_s);
 }
 
+TEST_F(ImagenesCaso, WhatIsShownIsCopiedWhenItsFileHasGoneSince)
+{
+    auto& imagen = piso.form.como<Imagen>(u"Imagen");
+    QObject::connect(&imagen, &Imagen::CopiaPedida, &imagen, [](bool& copiada) { copiada = true; });
+    Escribir({}, Fichero(u"fachada.jpg"_s));
+    piso.sistema.imagenLegible = false;
+    Pulsar(u"SSCommand9");
+    ASSERT_EQ(piso.dialogos.mensajes.size(), 1U);
+    EXPECT_EQ(piso.dialogos.mensajes[0].texto, u"La imagen seleccionada se ha copiado al portapapeles"_s);
+}
+
+TEST_F(ImagenesCaso, ATabulatorInAPathOrNameSplitsNothing)
+{
+    Añadir(u"vista\tsur"_s, u"/fotos/a\tb.jpg"_s);
+    Añadir(u"patio"_s, u"/c.jpg"_s);
+    Añadir(u"vista\tsur"_s, u"/fotos/d\te.jpg"_s);
+    EXPECT_EQ(lista(), QStringList({u"vista\tsur=/fotos/d\te.jpg"_s, u"patio=/c.jpg"_s}));
+    imagenes().Pulsar(1);
+    EXPECT_EQ(piso.texto(u"txtRutaImagen"), u"/fotos/d\te.jpg"_s);
+}
+
 TEST_F(ImagenesCaso, AnEmptyOrUnreadablePreviewIsNotCopied)
 {
     Pulsar(u"SSCommand9");
@@ -266,6 +287,18 @@ TEST_F(ImagenesGuardadas, ComeBackWithTheCaseInTheirOrder)
     EXPECT_EQ(imagenes.TextMatrix(2, 1), u"cocina"_s);
     EXPECT_EQ(otro->texto(u"txtNombreImagen"), QString());
     EXPECT_EQ(otro->texto(u"txtRutaImagen"), QString());
+}
+
+TEST_F(ImagenesGuardadas, APathWithATabulatorComesBackAsItWas)
+{
+    const auto piso = Abrir();
+    Añadir(*piso, u"fachada"_s, u"/fotos/a\tb.jpg"_s);
+    Guardar(*piso);
+    piso->CargaGridImagenesAsociadas();
+    const Rejilla& imagenes = piso->rejilla(u"GridImagen");
+    ASSERT_EQ(imagenes.Rows(), 2);
+    EXPECT_EQ(imagenes.TextMatrix(1, 0), u"/fotos/a\tb.jpg"_s);
+    EXPECT_EQ(imagenes.TextMatrix(1, 1), u"fachada"_s);
 }
 
 TEST_F(ImagenesGuardadas, SavingAfterRemovingThemAllForgetsThem)
