@@ -93,6 +93,25 @@ TEST_F(AplicacionTest, OpeningWithNothingSelectedFails)
     EXPECT_NE(aplicacion->inicio(), nullptr);
 }
 
+// Such a key comes from a valuer's name with a "#" in it.
+TEST_F(AplicacionTest, AnUnknownLetterInAKeyFailsInWordsAndNoLoaderRuns)
+{
+    Arrancar();
+    ConTasador();
+    QStringList textos;
+    aplicacion->compartido().alEjecutarSQL = [&](const QString&, const QString& sql) { textos << sql; };
+    try {
+        aplicacion->AbrirCaso(u"Rosa Peña#1#X"_s);
+        FAIL();
+    } catch (const std::runtime_error& fallo) {
+        EXPECT_STREQ(fallo.what(), "Esta versión no abre tasaciones del tipo «X».");
+    }
+    for (const QString& sql : textos)
+        EXPECT_FALSE(sql.contains(u"NumeroTasacion")) << qPrintable(sql);
+    EXPECT_NE(aplicacion->inicio(), nullptr);
+    EXPECT_EQ(aplicacion->FormularioActual(), nullptr);
+}
+
 TEST_F(AplicacionTest, ACaseThatIsGoneLeavesTheStartWindowAndNoHalfLoadedCase)
 {
     Arrancar();
