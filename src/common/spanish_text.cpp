@@ -1,8 +1,7 @@
 #include "common/spanish_text.h"
 
-#include <QtEndian>
+#include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace valmerix {
 
@@ -49,6 +48,10 @@ constexpr auto kBases = [] {
 // Dashes, quotes and the like: as common in addresses as letters, and never with a case or an accent.
 constexpr char32_t kPrimerSigno = 0x2010;
 constexpr char32_t kUltimoSigno = 0x205E;
+
+// Of sort keys: weights up to this take one byte, the others the most there is.
+constexpr unsigned kUltimoPesoCorto = 0x80;
+constexpr size_t kMayorPeso = 4;
 
 constexpr bool EsMarca(char32_t c)
 {
@@ -147,6 +150,47 @@ unsigned SiguientePeso(Lector& lector)
             return base > u'n' ? base + 1 : base;
     }
     return 0;
+}
+
+// The weights of the letters that need no looking round, one byte each; 0 for all others.
+constexpr auto kPesosCortos = [] {
+    std::array<unsigned char, kBases.size()> pesos{};
+    for (size_t c = 1; c < pesos.size(); ++c) {
+        const unsigned base = kBases[c];
+        const unsigned peso = base == u'ñ' ? u'n' + 1 : base > u'n' ? base + 1 : base;
+        pesos[c] = static_cast<unsigned char>(peso <= kUltimoPesoCorto ? peso : 0);
+    }
+    return pesos;
+}();
+
+// Writes the weights of the letters up to the first that needs more care.
+void EscribirPesosCortos(LectorUtf16& lector, char*& destino)
+{
+    const char16_t* p = lector.p;
+    char* d = destino;
+    for (; p != lector.fin && *p < kPesosCortos.size(); ++p) {
+        const unsigned char peso = kPesosCortos[*p];
+        if (peso == 0 || (peso == u'n' && lector.fin - p > 1 && p[1] == kTilde))
+            break;
+        *d++ = static_cast<char>(peso);
+    }
+    lector.p = p;
+    destino = d;
+}
+
+// In sort keys: false for no weight at all.
+bool EscribirPeso(unsigned peso, char*& destino)
+{
+    if (peso == 0)
+        return false;
+    if (peso <= kUltimoPesoCorto) {
+        *destino++ = static_cast<char>(peso);
+        return true;
+    }
+    *destino++ = static_cast<char>(0xFF);
+    for (const unsigned corrimiento : {14U, 7U, 0U}) // never a zero byte
+        *destino++ = static_cast<char>(0x80U | ((peso >> corrimiento) & 0x7FU));
+    return true;
 }
 
 template <class Lector>
@@ -261,74 +305,16 @@ int CompararEspañol(std::string_view utf8A, std::string_view utf8B)
     return niveles != 0 ? niveles : utf8A.compare(utf8B);
 }
 
-void OrdenPorClaves::Añadir(QStringView texto)
+void AñadirPesos(QStringView texto, std::string& claves)
 {
-    Clave clave;
-    clave.inicio = bytes_.size();
-    clave.indice = claves_.size();
-    constexpr qsizetype kMayor = 4; // bytes that one character may take
-    bytes_.resize(clave.inicio + static_cast<size_t>(texto.size() * kMayor));
-    char* destino = bytes_.data() + clave.inicio;
+    const size_t inicio = claves.size();
+    claves.resize(inicio + static_cast<size_t>(texto.size()) * kMayorPeso);
+    char* destino = claves.data() + inicio;
     LectorUtf16 lector(texto);
-    while (const unsigned peso = SiguientePeso(lector)) {
-        if (peso <= 0x80) {
-            *destino++ = static_cast<char>(peso);
-            continue;
-        }
-        *destino++ = static_cast<char>(0xFF);
-        for (const unsigned corrimiento : {14U, 7U, 0U}) // never a zero byte
-            *destino++ = static_cast<char>(0x80U | ((peso >> corrimiento) & 0x7FU));
-    }
-    bytes_.resize(static_cast<size_t>(destino - bytes_.data()));
-    clave.fin = bytes_.size();
-    claves_.push_back(clave);
-}
-
-quint64 OrdenPorClaves::Trozo(const Clave& clave, size_t desde) const
-{
-    std::array<char, sizeof(quint64)> trozo{};
-    if (clave.inicio + desde < clave.fin) {
-        const size_t quedan = clave.fin - clave.inicio - desde;
-        std::memcpy(trozo.data(), bytes_.data() + clave.inicio + desde, std::min(quedan, trozo.size()));
-    }
-    return qFromBigEndian<quint64>(trozo.data());
-}
-
-void OrdenPorClaves::Ordenar()
-{
-    std::vector<Tramo> pendientes{{0, claves_.size(), 0}};
-    while (!pendientes.empty()) {
-        const Tramo tramo = pendientes.back();
-        pendientes.pop_back();
-        OrdenarTramo(tramo, pendientes);
-    }
-    orden.reserve(claves_.size());
-    for (const Clave& clave : claves_)
-        orden.push_back(clave.indice);
-}
-
-// Sorts by the eight bytes at hand; each run of equals waits for the next eight.
-void OrdenPorClaves::OrdenarTramo(const Tramo& tramo, std::vector<Tramo>& pendientes)
-{
-    for (size_t i = tramo.primero; i < tramo.ultimo; ++i)
-        claves_[i].trozo = Trozo(claves_[i], tramo.desde);
-    const auto lugar = [&](size_t i) { return claves_.begin() + static_cast<std::ptrdiff_t>(i); };
-    std::sort(lugar(tramo.primero), lugar(tramo.ultimo), [](const Clave& a, const Clave& b) {
-        return a.trozo != b.trozo ? a.trozo < b.trozo : a.indice < b.indice;
-    });
-    for (size_t i = tramo.primero; i < tramo.ultimo;) {
-        const quint64 trozo = claves_[i].trozo;
-        size_t fin = i + 1;
-        while (fin < tramo.ultimo && claves_[fin].trozo == trozo)
-            ++fin;
-        const bool acabadas = (trozo & 0xFFU) == 0; // no key holds a zero byte
-        if (fin - i > 1 && acabadas) {
-            empates.emplace_back(i, fin);
-        } else if (fin - i > 1) {
-            pendientes.push_back({i, fin, tramo.desde + sizeof(quint64)});
-        }
-        i = fin;
-    }
+    do {
+        EscribirPesosCortos(lector, destino);
+    } while (EscribirPeso(SiguientePeso(lector), destino));
+    claves.resize(static_cast<size_t>(destino - claves.data()));
 }
 
 } // namespace valmerix

@@ -1,13 +1,14 @@
 #include "shell/case_tree.h"
 
 #include "common/ini_file.h"
-#include "common/spanish_text.h"
+#include "common/spanish_sort.h"
 #include "store/query.h"
 
 #include <QDir>
 #include <QStringDecoder>
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <memory>
 
 namespace valmerix {
@@ -55,13 +56,42 @@ public:
     }
     Pluma& operator<<(QUtf8StringView texto)
     {
+        if (EscribirCorto(texto))
+            return *this;
         QStringDecoder lector(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
         fin_ = reinterpret_cast<char16_t*>(lector.appendToBuffer(reinterpret_cast<QChar*>(fin_),
                                                                  QByteArrayView(texto.data(), texto.size())));
         return *this;
     }
+    Pluma& operator<<(qint64 numero)
+    {
+        std::array<char, 20> cifras; // the longest there is, its sign included
+        const auto fin = std::to_chars(cifras.begin(), cifras.end(), numero).ptr;
+        fin_ = std::copy(cifras.begin(), fin, fin_);
+        return *this;
+    }
 
 private:
+    // Letters of one byte or two, which is what addresses are made of; to call the decoder costs more than
+    // these short texts do. False, nothing written, for any other text.
+    bool EscribirCorto(QUtf8StringView texto)
+    {
+        char16_t* fin = fin_;
+        const auto* byte = reinterpret_cast<const unsigned char*>(texto.data());
+        for (const auto* final = byte + texto.size(); byte != final; ++byte) {
+            if (*byte < 0x80) {
+                *fin++ = *byte;
+            } else if (*byte >= 0xC2 && *byte < 0xE0 && byte + 1 != final && (byte[1] & 0xC0U) == 0x80) {
+                *fin++ = static_cast<char16_t>((*byte & 0x1FU) << 6U | (byte[1] & 0x3FU));
+                ++byte;
+            } else {
+                return false;
+            }
+        }
+        fin_ = fin;
+        return true;
+    }
+
     char16_t* fin_;
     const char16_t* comienzo_;
 };
@@ -75,19 +105,16 @@ void AñadirHojas(const ConjuntoResultados& casos, CarpetaArbol& carpeta)
     const int tipo = casos.Columna(u"Tipo");
     const int situacion = casos.Columna(u"Situacion");
     const int municipio = casos.Columna(u"Municipio");
-    qsizetype letras = 0; // a byte of UTF-8 never gives more than one unit
-    for (qint32 fila = 1; fila <= casos.RecordCount(); ++fila) {
-        for (const int columna : {nombre, tipo, situacion, municipio})
-            letras += casos.Utf8(columna, fila).size();
-        letras += kSignos;
-    }
+    qsizetype letras = casos.RecordCount() * kSignos;
+    for (const int columna : {nombre, tipo, situacion, municipio})
+        letras += casos.Utf8Bytes(columna); // a byte of UTF-8 never gives more than one unit
     carpeta.letras = std::make_shared_for_overwrite<char16_t[]>(static_cast<size_t>(letras));
     carpeta.hijos.reserve(static_cast<size_t>(casos.RecordCount()));
     Pluma pluma(carpeta.letras.get());
     for (qint32 fila = 1; fila <= casos.RecordCount(); ++fila) {
         const auto texto = [&](int columna) { return casos.Utf8(columna, fila); };
         pluma.Empezar();
-        pluma << texto(nombre) << u"#" << QString::number(casos.Entero(numero, fila)) << u"#" << texto(tipo);
+        pluma << texto(nombre) << u"#" << casos.Entero(numero, fila) << u"#" << texto(tipo);
         const QStringView clave = pluma.Escrito();
         pluma.Empezar();
         pluma << texto(situacion) << u" (" << texto(municipio) << u")";

@@ -2,6 +2,7 @@
 
 #include "store/query.h"
 
+#include <QStringList>
 #include <SQLiteCpp/Database.h>
 #include <string>
 #include <vector>
@@ -17,7 +18,9 @@ public:
     /// Throws ErrorAlmacen. A file that may not be written opens for reading.
     explicit Conexion(const QString& ruta);
 
-    ConjuntoResultados Leer(const QString& sql, const std::string& utf8);
+    /// `utf8` is the SELECT `sql` with its ORDER BY in Spanish order, `orden` the bare names of that ORDER
+    /// BY, none when it holds anything else.
+    ConjuntoResultados Leer(const QString& sql, const std::string& utf8, const QStringList& orden);
     /// Prepares all of them before it runs the first.
     void Escribir(const QString& sql, const std::vector<std::string>& utf8);
     /// Throws ErrorAlmacen when what was written does not stand, however often it is called.
@@ -35,6 +38,7 @@ private:
     qint64 Pragma(const char* nombre);
     void Mandar(const char* orden, const QString& sql);
     Sentencia Compilar(const QString& sql, const std::string& utf8, bool soloLectura);
+    std::string Camino(const QString& sql, const std::string& utf8);
     void ComprobarQueSigueEnPie(const QString& sql);
     [[noreturn]] void Fallar(int codigo, const QString& sql);
 

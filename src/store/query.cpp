@@ -67,7 +67,7 @@ ConjuntoResultados clsConsulta::Instantanea2(const QString& base, const QString&
     Conexion& abierta = conexion(base, sql);
     const std::string comprobada = ComprobarConsulta(sql);
     Avisar(base, sql);
-    return abierta.Leer(sql, comprobada);
+    return abierta.Leer(sql, comprobada, NombresDelOrden(sql));
 }
 
 void clsConsulta::EjecutarSentencia(const QString& base, const QString& sql)

@@ -103,7 +103,8 @@ quint32 ConjuntoResultados::Fila(qint32 fila) const
 {
     if (fila < 1 || fila > RecordCount())
         throw ErrorAlmacen(u"La consulta no devuelve la fila %1."_s.arg(fila), datos_->sql);
-    return static_cast<quint32>(fila - 1);
+    const auto lugar = static_cast<quint32>(fila - 1);
+    return datos_->orden.empty() ? lugar : datos_->orden[lugar];
 }
 
 const ColumnaResultado& ConjuntoResultados::columna(QStringView campo) const
@@ -179,9 +180,14 @@ QUtf8StringView ConjuntoResultados::Utf8(int columna, qint32 fila) const
     return {texto.data(), static_cast<qsizetype>(texto.size())};
 }
 
+qsizetype ConjuntoResultados::Utf8Bytes(int columna) const
+{
+    return static_cast<qsizetype>(datos_->columnas.at(static_cast<size_t>(columna)).bytesDeTexto());
+}
+
 size_t ConjuntoResultados::bytes() const
 {
-    size_t total = 0;
+    size_t total = datos_->orden.capacity() * sizeof(quint32);
     for (const ColumnaResultado& columna : datos_->columnas)
         total += columna.bytes();
     return total;

@@ -41,6 +41,7 @@ public:
     /// By position, for walks over many rows: the UTF-8 bytes of a text cell (empty for any other), valid
     /// while the snapshot lives.
     QUtf8StringView Utf8(int columna, qint32 fila) const;
+    qsizetype Utf8Bytes(int columna) const; ///< of all the text cells of the column together
     qint64 Entero(int columna, qint32 fila) const;
     int Columna(QStringView campo) const;
 

@@ -118,7 +118,7 @@ void ColumnaResultado::Ajustar()
     nulas_.Ajustar();
 }
 
-ClaseCelda ColumnaResultado::clase(quint32 fila) const
+ClaseCelda ColumnaResultado::claseMezclada(quint32 fila) const
 {
     if (clase_ == ClaseCelda::Nula || nula(fila))
         return ClaseCelda::Nula;
@@ -128,7 +128,7 @@ ClaseCelda ColumnaResultado::clase(quint32 fila) const
 
 qint64 ColumnaResultado::entero(quint32 fila) const
 {
-    const Aparte* suelta = aparte(fila);
+    const Aparte* suelta = aparte_.empty() ? nullptr : aparte(fila);
     return suelta == nullptr ? numeros_[fila] : suelta->numero;
 }
 
@@ -137,14 +137,13 @@ double ColumnaResultado::real(quint32 fila) const
     return std::bit_cast<double>(entero(fila));
 }
 
-std::string_view ColumnaResultado::texto(quint32 fila) const
+std::string_view ColumnaResultado::textoMezclado(quint32 fila) const
 {
     if (const Aparte* suelta = aparte(fila))
         return suelta->texto;
     if (clase_ != ClaseCelda::Texto)
         return {};
-    const quint32 inicio = fila == 0 ? 0 : finales_[fila - 1];
-    return {letras_.data() + inicio, finales_[fila] - inicio};
+    return textoPropio(fila);
 }
 
 size_t ColumnaResultado::bytes() const
@@ -152,6 +151,14 @@ size_t ColumnaResultado::bytes() const
     size_t total = numeros_.bytes() + finales_.bytes() + letras_.bytes() + nulas_.bytes();
     for (const Aparte& suelta : aparte_)
         total += sizeof suelta + suelta.texto.capacity();
+    return total;
+}
+
+size_t ColumnaResultado::bytesDeTexto() const
+{
+    size_t total = letras_.size();
+    for (const Aparte& suelta : aparte_)
+        total += suelta.texto.size();
     return total;
 }
 

@@ -90,11 +90,15 @@ public:
 
     const QString& nombre() const { return nombre_; }
     bool esFecha() const { return esFecha_; }
-    ClaseCelda clase(quint32 fila) const;
+    ClaseCelda clase(quint32 fila) const { return pura() ? clase_ : claseMezclada(fila); }
     qint64 entero(quint32 fila) const; ///< for cells of class Entero
     double real(quint32 fila) const;   ///< for cells of class Real
-    std::string_view texto(quint32 fila) const;
+    std::string_view texto(quint32 fila) const
+    {
+        return pura() && clase_ == ClaseCelda::Texto ? textoPropio(fila) : textoMezclado(fila);
+    }
     size_t bytes() const;
+    size_t bytesDeTexto() const;
 
 private:
     struct Aparte
@@ -109,6 +113,14 @@ private:
     void AñadirTexto(std::string_view texto);
     void Fundar(ClaseCelda clase, quint32 fila);
     void MarcarNula(quint32 fila);
+    bool pura() const { return aparte_.empty() && nulas_.size() == 0; } ///< all cells of the column's class
+    ClaseCelda claseMezclada(quint32 fila) const;
+    std::string_view textoPropio(quint32 fila) const
+    {
+        const quint32 inicio = fila == 0 ? 0 : finales_[fila - 1];
+        return {letras_.data() + inicio, finales_[fila] - inicio};
+    }
+    std::string_view textoMezclado(quint32 fila) const;
     bool nula(quint32 fila) const;
     const Aparte* aparte(quint32 fila) const;
 
@@ -140,6 +152,8 @@ struct ConjuntoResultados::Datos
     std::vector<ColumnaResultado> columnas;
     std::unordered_map<QStringView, int, PicadilloSinCaja, IgualSinCaja> porNombre; // views of their names
     quint32 filas = 0;
+    std::vector<quint32>
+        orden; ///< places of the rows in the columns, empty when they stand as they were read
     QString sql;
 };
 

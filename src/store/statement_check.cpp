@@ -90,15 +90,21 @@ bool CierraTermino(const Ficha& ficha)
            ficha.es("COLLATE");
 }
 
-// Where each term of the outermost ORDER BY ends, those with an order of their own left out.
-std::vector<size_t> FinalesDeOrden(const std::vector<Ficha>& fichas)
+// The place of the outermost ORDER BY, the number of tokens when there is none.
+size_t BuscarOrden(const std::vector<Ficha>& fichas)
 {
     size_t i = 0;
     while (i < fichas.size() && !(fichas[i].profundidad == 0 && EmpiezaPor(fichas, i, "ORDER", "BY")))
         ++i;
+    return i;
+}
+
+// Where each term of the outermost ORDER BY ends, those with an order of their own left out.
+std::vector<size_t> FinalesDeOrden(const std::vector<Ficha>& fichas)
+{
     std::vector<size_t> finales;
     bool abierto = true;
-    for (i += 2; i < fichas.size(); ++i) {
+    for (size_t i = BuscarOrden(fichas) + 2; i < fichas.size(); ++i) {
         const Ficha& ficha = fichas[i];
         const bool fuera = ficha.profundidad == 0;
         if (abierto && fuera && (ficha.esSigno(',') || CierraTermino(ficha))) {
@@ -111,7 +117,7 @@ std::vector<size_t> FinalesDeOrden(const std::vector<Ficha>& fichas)
         if (fuera && ficha.esSigno(','))
             abierto = true;
     }
-    if (abierto && i == fichas.size())
+    if (abierto && BuscarOrden(fichas) < fichas.size())
         finales.push_back(fichas.back().fin);
     return finales;
 }
@@ -127,6 +133,20 @@ std::string ComprobarConsulta(const QString& sql)
     RechazarAjenas(sql, fichas);
     AñadirOrdenEspañol(utf8, FinalesDeOrden(fichas));
     return utf8;
+}
+
+QStringList NombresDelOrden(const QString& sql)
+{
+    const std::string utf8 = sql.toStdString();
+    const std::vector<Ficha> fichas = Cortar(sql, utf8);
+    QStringList nombres;
+    for (size_t i = BuscarOrden(fichas) + 2; i < fichas.size(); i += 2) {
+        const bool acaba = i + 1 == fichas.size();
+        if (fichas[i].clase != ClaseFicha::Palabra || (!acaba && !fichas[i + 1].esSigno(',')))
+            return {};
+        nombres << QString::fromUtf8(fichas[i].texto.data(), static_cast<qsizetype>(fichas[i].texto.size()));
+    }
+    return nombres;
 }
 
 std::vector<std::string> ComprobarEscritura(const QString& sql)

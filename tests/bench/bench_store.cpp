@@ -1,4 +1,4 @@
-#include "common/spanish_text.h"
+#include "common/spanish_sort.h"
 #include "store/case_loading.h"
 #include "store/case_saving.h"
 #include "store/query.h"

@@ -1,4 +1,4 @@
-#include "common/spanish_text.h"
+#include "common/spanish_sort.h"
 
 #include "support/qt_printers.h"
 

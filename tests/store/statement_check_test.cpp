@@ -105,4 +105,18 @@ TEST(StatementCheck, OrderByTermsGetTheSpanishCollation)
               "SELECT (SELECT a FROM U ORDER BY a), ' ORDER BY x' FROM T");
 }
 
+TEST(StatementCheck, OrderByOfBareNamesTellsThem)
+{
+    EXPECT_EQ(NombresDelOrden(u"SELECT a FROM T WHERE b = 'x' ORDER BY a, Baños"_s),
+              (QStringList{u"a"_s, u"Baños"_s}));
+    for (const QString& otro :
+         {u"SELECT a FROM T"_s, u"SELECT a FROM T ORDER BY a DESC"_s,
+          u"SELECT a FROM T ORDER BY a, b LIMIT 3"_s, u"SELECT a FROM T ORDER BY a COLLATE NOCASE"_s,
+          u"SELECT a FROM T ORDER BY 1"_s, u"SELECT a FROM T ORDER BY f(a)"_s,
+          u"SELECT a FROM T ORDER BY T.a"_s, u"SELECT (SELECT a FROM U ORDER BY a) FROM T"_s,
+          u"SELECT a FROM T ORDER BY a + b"_s}) {
+        EXPECT_EQ(NombresDelOrden(otro), QStringList()) << qPrintable(otro);
+    }
+}
+
 } // namespace valmerix
