@@ -72,18 +72,23 @@ public:
     }
 
 private:
-    // Letters of one byte or two, which is what addresses are made of; to call the decoder costs more than
-    // these short texts do. False, nothing written, for any other text.
+    // Letters of one byte or two and signs of three, which is what addresses are made of; to call the decoder
+    // costs more than these short texts do. False, nothing written, for any other text.
     bool EscribirCorto(QUtf8StringView texto)
     {
         char16_t* fin = fin_;
-        const auto* byte = reinterpret_cast<const unsigned char*>(texto.data());
-        for (const auto* final = byte + texto.size(); byte != final; ++byte) {
-            if (*byte < 0x80) {
-                *fin++ = *byte;
-            } else if (*byte >= 0xC2 && *byte < 0xE0 && byte + 1 != final && (byte[1] & 0xC0U) == 0x80) {
-                *fin++ = static_cast<char16_t>((*byte & 0x1FU) << 6U | (byte[1] & 0x3FU));
-                ++byte;
+        const auto* p = reinterpret_cast<const unsigned char*>(texto.data());
+        const auto* final = p + texto.size();
+        const auto continua = [&](int i) { return final - p > i && (p[i] & 0xC0U) == 0x80; };
+        while (p != final) {
+            if (*p < 0x80) {
+                *fin++ = *p++;
+            } else if (*p >= 0xC2 && *p < 0xE0 && continua(1)) {
+                *fin++ = static_cast<char16_t>((p[0] & 0x1FU) << 6U | (p[1] & 0x3FU));
+                p += 2;
+            } else if (*p > 0xE0 && *p < 0xED && continua(1) && continua(2)) {
+                *fin++ = static_cast<char16_t>((p[0] & 0xFU) << 12U | (p[1] & 0x3FU) << 6U | (p[2] & 0x3FU));
+                p += 3;
             } else {
                 return false;
             }
@@ -150,6 +155,12 @@ std::optional<ConjuntoResultados> ArbolCasos::Busqueda(const EstadoCompartido& c
     }
 }
 
+void ArbolCasos::LlenarCarpeta(CarpetaArbol& carpeta, const ConjuntoResultados& casos)
+{
+    AñadirHojas(casos, carpeta);
+    OrdenarEspañol(carpeta.hijos, [](const NodoArbol& n) { return n.texto; });
+}
+
 void ArbolCasos::CargarArbol(Arbol& arbol, EstadoCompartido& compartido, const Sistema& sistema)
 {
     arbol.setCarpetas({});
@@ -157,10 +168,8 @@ void ArbolCasos::CargarArbol(Arbol& arbol, EstadoCompartido& compartido, const S
     std::vector<CarpetaArbol> carpetas;
     for (const FilaCarpeta& fila : kCarpetas) {
         CarpetaArbol carpeta{fila.letra.toString(), fila.texto.toString(), {}, {}};
-        if (const auto casos = Busqueda(compartido, carpeta.clave)) {
-            AñadirHojas(*casos, carpeta);
-            OrdenarEspañol(carpeta.hijos, [](const NodoArbol& n) { return n.texto; });
-        }
+        if (const auto casos = Busqueda(compartido, carpeta.clave))
+            LlenarCarpeta(carpeta, *casos);
         carpetas.push_back(std::move(carpeta));
     }
     arbol.setCarpetas(std::move(carpetas));

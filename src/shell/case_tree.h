@@ -19,6 +19,9 @@ namespace ArbolCasos {
 /// The stored cases of a kind, by its letter; nothing when the store fails.
 std::optional<ConjuntoResultados> Busqueda(const EstadoCompartido& compartido, const QString& letra);
 
+/// Gives a folder the leaves of these cases, in the order of their text.
+void LlenarCarpeta(CarpetaArbol& carpeta, const ConjuntoResultados& casos);
+
 /// Reads the path of the database and fills the tree: six folders, the children of each in the order of
 /// their text. A leaf's key is "valuer#number#letter".
 void CargarArbol(Arbol& arbol, EstadoCompartido& compartido, const Sistema& sistema);

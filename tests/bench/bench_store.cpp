@@ -1,4 +1,4 @@
-#include "common/spanish_sort.h"
+#include "shell/case_tree.h"
 #include "store/case_loading.h"
 #include "store/case_saving.h"
 #include "store/query.h"
@@ -6,7 +6,6 @@
 #include "store/sql_functions.h"
 #include "support/fake_open_case.h"
 
-#include <QStringBuilder>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
@@ -196,31 +195,15 @@ void TreeQuery(benchmark::State& estado)
         benchmark::DoNotOptimize(consulta.Instantanea2(u"Empresa"_s, kArbol).RecordCount());
 }
 
-struct Hoja
-{
-    QString clave;
-    QString texto;
-};
-
 // The query, the two texts of each node and their sorting.
 void TreeNodes(benchmark::State& estado)
 {
     clsConsulta consulta;
     consulta.AbrirBaseDatosEmpresa(LaBase().compartido.RutaBaseDatos);
     for (auto _ : estado) {
-        const ConjuntoResultados filas = consulta.Instantanea2(u"Empresa"_s, kArbol);
-        const int situacion = filas.Columna(u"Situacion");
-        const int municipio = filas.Columna(u"Municipio");
-        const int tasador = filas.Columna(u"NombreTasador");
-        std::vector<Hoja> hojas;
-        hojas.reserve(static_cast<size_t>(filas.RecordCount()));
-        for (qint32 i = 1; i <= filas.RecordCount(); ++i) {
-            hojas.push_back(
-                {filas.Utf8(tasador, i).toString() % u'#' % filas.Texto(u"NumeroTasacion", i) % u"#P",
-                 filas.Utf8(situacion, i).toString() % u" (" % filas.Utf8(municipio, i).toString() % u')'});
-        }
-        OrdenarEspañol(hojas, [](const Hoja& hoja) -> QStringView { return hoja.texto; });
-        benchmark::DoNotOptimize(hojas.data());
+        CarpetaArbol carpeta;
+        ArbolCasos::LlenarCarpeta(carpeta, consulta.Instantanea2(u"Empresa"_s, kArbol));
+        benchmark::DoNotOptimize(carpeta.hijos.data());
     }
 }
 
