@@ -53,6 +53,13 @@ bool AplicacionQt::notify(QObject* receptor, QEvent* evento)
     }
 }
 
+QWidget* VentanaDelante()
+{
+    // News of the activation may come after the window has been hidden.
+    QWidget* activa = QApplication::activeWindow();
+    return activa && activa->isVisible() ? activa : nullptr;
+}
+
 void InformarFalloDePantalla(const std::exception& fallo)
 {
     auto* aplicacion = qobject_cast<AplicacionQt*>(QCoreApplication::instance());

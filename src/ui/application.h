@@ -39,6 +39,10 @@ private:
     std::function<void(const QString&)> ayuda_;
 };
 
+/// What a box or a modal window is to stand over: the window in front of her, null when there is none. A
+/// window that is gone and only waits for its deletion is none: it would take the box with it.
+QWidget* VentanaDelante();
+
 /// Tells a failure through the application, or lets it pass when there is none of ours. To be called while it
 /// is being handled.
 void InformarFalloDePantalla(const std::exception& fallo);

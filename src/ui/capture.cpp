@@ -1,11 +1,11 @@
 #include "ui/capture.h"
 
+#include "ui/application.h"
 #include "ui/camera_source.h"
 #include "ui/capture_window.h"
 #include "ui/picture_loader.h"
 #include "ui/scanner_source.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -20,7 +20,7 @@ constexpr QSize kCaja(4000, 4000); // pixels; more than any letterhead prints
 
 void Avisar(const QString& texto)
 {
-    QMessageBox::information(QApplication::activeWindow(), u"Aviso"_s, texto);
+    QMessageBox::information(VentanaDelante(), u"Aviso"_s, texto);
 }
 
 } // namespace
@@ -52,7 +52,7 @@ std::optional<QString> CapturaQt::LoadCapture(FuenteImagen fuente, const QString
 QImage CapturaQt::DeFichero(const QString& carpetaPrograma)
 {
     const QString ruta =
-        QFileDialog::getOpenFileName(QApplication::activeWindow(), u"Cargar Imagen"_s, carpetaPrograma,
+        QFileDialog::getOpenFileName(VentanaDelante(), u"Cargar Imagen"_s, carpetaPrograma,
                                      u"Imágenes (*.bmp *.gif *.jpg *.jpeg *.png);;Todos los ficheros (*)"_s);
     if (ruta.isEmpty())
         return {};
@@ -65,7 +65,7 @@ QImage CapturaQt::DeFichero(const QString& carpetaPrograma)
 QImage CapturaQt::DeAparato(const Fabrica& fabrica, const TextosCaptura& textos)
 {
     const std::unique_ptr<FuenteCaptura> fuente = fabrica();
-    VentanaCaptura ventana(*fuente, textos, QApplication::activeWindow());
+    VentanaCaptura ventana(*fuente, textos, VentanaDelante());
     if (ventana.exec() != QDialog::Accepted)
         return {};
     const QImage& imagen = ventana.imagen();

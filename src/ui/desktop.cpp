@@ -1,8 +1,8 @@
 #include "ui/desktop.h"
 
+#include "ui/application.h"
 #include "ui/views.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QEventLoop>
 #include <QScreen>
@@ -116,7 +116,7 @@ void PantallaQt::MostrarModal(Ventana& ventana)
         if (!ventana.visible())
             espera.quit();
     });
-    if (QWidget* delante = QApplication::activeWindow(); delante && delante != &nueva)
+    if (QWidget* delante = VentanaDelante(); delante && delante != &nueva)
         nueva.PonerDelanteDe(*delante);
     nueva.setWindowModality(Qt::ApplicationModal);
     ApuntarTodas(); // it may be the one that ends the process

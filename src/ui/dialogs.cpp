@@ -1,8 +1,8 @@
 #include "ui/dialogs.h"
 
+#include "ui/application.h"
 #include "ui/calendar_dialog.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -35,7 +35,7 @@ class Caja : public QMessageBox
 {
 public:
     Caja(const QString& texto, const QString& titulo, IconoMensaje icono)
-        : QMessageBox(IconoDeQt(icono), titulo, texto, QMessageBox::NoButton, QApplication::activeWindow())
+        : QMessageBox(IconoDeQt(icono), titulo, texto, QMessageBox::NoButton, VentanaDelante())
     {
         setTextFormat(Qt::PlainText);
         setWindowModality(Qt::ApplicationModal);
@@ -83,7 +83,7 @@ bool DialogosQt::InformarFallo(const QString& texto, const QString& detalle)
 
 std::optional<QString> DialogosQt::ElegirFichero(const QString& filtro)
 {
-    QFileDialog dialogo(QApplication::activeWindow(), u"Abrir"_s);
+    QFileDialog dialogo(VentanaDelante(), u"Abrir"_s);
     dialogo.setFileMode(QFileDialog::ExistingFile);
     // The descriptions name their patterns themselves.
     dialogo.setOption(QFileDialog::HideNameFilterDetails);
@@ -106,7 +106,7 @@ QStringList FiltrosDeFichero(const QString& filtro)
 
 std::optional<QDate> DialogosQt::MostrarCalendario(QDate fecha)
 {
-    DialogoCalendario dialogo(fecha, QApplication::activeWindow());
+    DialogoCalendario dialogo(fecha, VentanaDelante());
     if (dialogo.exec() != QDialog::Accepted)
         return std::nullopt;
     return dialogo.fecha();

@@ -1,5 +1,6 @@
 #include "ui/printing_port.h"
 
+#include "ui/application.h"
 #include "ui/print_preview.h"
 #include "ui/report_pages.h"
 
@@ -19,7 +20,7 @@ void ImpresionQt::Previsualizar(const DocumentoImpreso& documento)
     PaginasInforme paginas(documento);
     QApplication::restoreOverrideCursor();
     VentanaPrevia ventana(paginas, documento.caption, documento.zoom, dialogos_, elecciones_,
-                          QApplication::activeWindow());
+                          VentanaDelante());
     ventana.exec();
 }
 

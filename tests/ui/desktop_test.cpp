@@ -82,6 +82,20 @@ TEST(Desktop, ABoxOutlivesTheWindowItStandsOver)
     EXPECT_TRUE(QTest::qWaitFor([&] { return vista.isNull(); }));
 }
 
+TEST(Desktop, ABoxDoesNotStandOverAWindowThatIsGone)
+{
+    PantallaQt pantalla;
+    auto demo = std::make_unique<VentanaDemo>();
+    pantalla.Mostrar(*demo);
+    const QPointer<QWidget> vista = pantalla.vista(*demo);
+    demo.reset();
+    QApplication::setActiveWindow(vista); // as when its activation is told late
+    ASSERT_NE(vista, nullptr);
+    PulsarEnLaCaja(u"Aceptar"_s);
+    DialogosQt().Mensaje(u"Falta elegir el tasador."_s, u"Aviso"_s, IconoMensaje::Aviso);
+    EXPECT_EQ(vista, nullptr) << "deleted while the box stood there";
+}
+
 TEST(Desktop, ShowingModallyReturnsOnceTheWindowIsClosed)
 {
     PantallaQt pantalla;
