@@ -4,7 +4,6 @@
 
 #include <QLabel>
 #include <QTabWidget>
-#include <QTimer>
 #include <functional>
 
 namespace valmerix {
@@ -61,7 +60,7 @@ protected:
     void Modal(const std::function<void()>& abrir, const QString& cierre)
     {
         bool vista = false;
-        QTimer::singleShot(0, qApp, [&] {
+        EnElModal([&] {
             vista = true;
             QApplication::processEvents();
             ComprobarQueCabe(*VistaModal());

@@ -1,7 +1,6 @@
 #include "windows_fixture.h"
 
 #include <QRadioButton>
-#include <QTimer>
 
 namespace valmerix {
 
@@ -22,7 +21,7 @@ protected:
 
 TEST_F(OptionsView, TheSourceOfTheLogoIsOneOfThree)
 {
-    QTimer::singleShot(0, qApp, [&] {
+    EnElModal([&] {
         VistaVentana& vista = *VistaModal();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&vista));
         const auto elegidas = [&] {

@@ -3,7 +3,6 @@
 #include "windows_fixture.h"
 
 #include <QShortcut>
-#include <QTimer>
 
 namespace valmerix {
 
@@ -108,7 +107,7 @@ TEST_F(ToolbarKeys, OfCommandsThatAreToComeDoNothing)
 TEST_F(ToolbarKeys, WaitBehindAQuestionAndEndWithTheCase)
 {
     CerrarPaleta();
-    QTimer::singleShot(0, qApp, [&] {
+    EnElModal([&] {
         QTest::keyClick(VistaModal(), Qt::Key_S, Qt::ControlModifier);
         EXPECT_EQ(numero(), 0);
         Pulsar(*VistaModal(), u"SSCommand1"_s);

@@ -14,8 +14,11 @@
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+#include <functional>
 #include <gtest/gtest.h>
 #include <stdexcept>
+#include <utility>
 
 namespace valmerix {
 
@@ -48,6 +51,18 @@ protected:
         return *vista;
     }
     VistaVentana* VistaModal() { return qobject_cast<VistaVentana*>(QApplication::activeModalWidget()); }
+    /// Runs once a modal window stands before her, however long that takes.
+    void EnElModal(std::function<void()> guion)
+    {
+        espera_.disconnect();
+        QObject::connect(&espera_, &QTimer::timeout, [this, guion = std::move(guion)] {
+            if (!VistaModal() || !VistaModal()->isVisible())
+                return;
+            espera_.stop();
+            guion();
+        });
+        espera_.start(1);
+    }
     QAbstractButton& Boton_(QWidget& vista, const QString& nombre)
     {
         return *vista.findChild<QAbstractButton*>(nombre);
@@ -87,6 +102,7 @@ protected:
     PantallaQt pantalla;
     FakeCaptura captura;
     FakeImpresion impresion;
+    QTimer espera_;
     Aplicacion aplicacion{Puertos{dialogos, reloj, sistema, pantalla, captura, impresion}};
 };
 

@@ -10,7 +10,6 @@
 #include <QStackedWidget>
 #include <QTableView>
 #include <QTextBlock>
-#include <QTimer>
 #include <QWindow>
 
 namespace valmerix {
@@ -36,7 +35,7 @@ TEST_F(Windows, EscapeOnTheStartWindowAsksForTheEnd)
 {
     aplicacion.inicio()->TerminarPortada();
     QString pregunta;
-    QTimer::singleShot(0, qApp, [&] {
+    EnElModal([&] {
         VistaVentana* salida = VistaModal();
         ASSERT_NE(salida, nullptr);
         pregunta = salida->findChild<QLabel*>(u"Label1"_s)->text();
@@ -52,7 +51,7 @@ TEST_F(Windows, AHastyReturnOrEscapeOnAQuestionChangesNothing)
 {
     AbrirPiso();
     for (const auto tecla : {Qt::Key_Return, Qt::Key_Escape}) {
-        QTimer::singleShot(0, qApp, [&] {
+        EnElModal([&] {
             ASSERT_TRUE(QTest::qWaitForWindowActive(VistaModal()));
             QTest::keyClick(QApplication::focusWidget(), tecla);
         });
@@ -78,7 +77,7 @@ TEST_F(Windows, ACaseIsTypedSavedAndFoundInTheTreeAfterARestart)
     Fotografiar(Vista(*aplicacion.paleta()), u"Form2"_s);
     Pulsar(Vista(*aplicacion.paleta()), u"Botonera(5)"_s);
     EXPECT_EQ(aplicacion.compartido().NumeroTasacionActual, 5);
-    QTimer::singleShot(0, qApp, [&] {
+    EnElModal([&] {
         Fotografiar(*VistaModal(), u"Reinicio"_s);
         Pulsar(*VistaModal(), u"SSCommand1"_s);
     });
@@ -189,7 +188,7 @@ TEST_F(Windows, AWindowClosedThroughTheDesktopAsksBeforeTheEndOfTheProgram)
 {
     const auto cerrar = [&](VistaVentana& vista) {
         QString preguntado;
-        QTimer::singleShot(0, qApp, [&] {
+        EnElModal([&] {
             preguntado = VistaModal()->windowTitle();
             Pulsar(*VistaModal(), u"SSCommand1"_s);
         });
@@ -248,7 +247,7 @@ TEST_F(Windows, ACommandOfTheToolbarLeavesTheFieldInHandFirst)
 TEST_F(Windows, TheRecordOfCompanyAndValuersIsFilledIn)
 {
     AbrirPiso();
-    QTimer::singleShot(0, qApp, [&] {
+    EnElModal([&] {
         VistaVentana* ficha = VistaModal();
         ASSERT_NE(ficha, nullptr);
         auto* lista = ficha->findChild<QTableView*>(u"Flexi"_s);
@@ -268,14 +267,14 @@ TEST_F(Windows, NotesAndProblemAreWrittenInTheirEditors)
 {
     AbrirPiso();
     auto& forma = *aplicacion.FormularioActual();
-    QTimer::singleShot(0, qApp, [&] {
+    EnElModal([&] {
         QTest::keyClicks(VistaModal()->findChild<QWidget*>(u"txtEdicionObservaciones"_s), u"Buen estado."_s);
         Fotografiar(*VistaModal(), u"Observaciones"_s);
         Pulsar(*VistaModal(), u"SSCommand1"_s);
     });
     Pulsar(Vista(forma), u"cmdObservaciones"_s);
     EXPECT_EQ(forma.texto(u"txtObservaciones"), u"Buen estado.");
-    QTimer::singleShot(0, qApp, [&] {
+    EnElModal([&] {
         QTest::keyClicks(VistaModal()->findChild<QWidget*>(u"BoxProblema"_s), u"Sin licencia."_s);
         Fotografiar(*VistaModal(), u"Problema"_s);
         Pulsar(*VistaModal(), u"SSCommand1"_s);
@@ -288,7 +287,7 @@ TEST_F(Windows, TheWordProcessorIsChosenFromTheDisk)
 {
     AbrirPiso();
     CampoTexto trayecto(u"TrayecBox"_s);
-    QTimer::singleShot(0, qApp, [&] {
+    EnElModal([&] {
         VistaVentana* selector = VistaModal();
         auto* carpetas = selector->findChild<QListWidget*>(u"Dir1"_s);
         const auto bin = carpetas->findItems(u"bin"_s, Qt::MatchExactly);
@@ -309,7 +308,7 @@ TEST_F(Windows, TheWordProcessorIsChosenFromTheDisk)
 TEST_F(Windows, TheSettingsShowEveryControlOfTheirs)
 {
     AbrirPiso();
-    QTimer::singleShot(0, qApp, [&] {
+    EnElModal([&] {
         Fotografiar(*VistaModal(), u"Opciones"_s);
         for (const auto& control : VistaModal()->ventana()->controles())
             EXPECT_NE(VistaModal()->enlazador().de(control.get()), nullptr) << qPrintable(control->nombre());
