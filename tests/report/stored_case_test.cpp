@@ -2,6 +2,7 @@
 #include "report/heading_rules.h"
 
 #include "store/case_loading.h"
+#include "store/case_saving.h"
 #include "support/fake_ports.h"
 #include "support/sample_base.h"
 #include "support/store_fixture.h"
@@ -63,27 +64,74 @@ TEST(StoredCase, TheWindowsOfTheDwellingsHaveAllThatTheReportReads)
     }
 }
 
-TEST(StoredCase, TheSampleFlatsDraftFromTheirRows)
+namespace {
+
+class Muestras : public testing::Test
 {
-    const QTemporaryDir carpeta;
-    const QString ruta = carpeta.filePath(u"muestras.mdb"_s);
-    CrearBaseDeMuestras(ruta);
-    AccesoDatos::clsConsulta consulta;
-    consulta.AbrirBaseDatosEmpresa(ruta);
-    const ConjuntoResultados casos = consulta.Instantanea2(
-        u"Empresa"_s, u"SELECT NombreTasador, NumeroTasacion, Municipio FROM Viviendas WHERE Tipo = 'P'"_s);
-    ASSERT_EQ(casos.RecordCount(), 10);
-    for (qint32 fila = 1; fila <= casos.RecordCount(); ++fila) {
-        FormularioDePrueba f(kDescripcionPiso, ruta);
-        CargaVivienda(f.formulario, f.entorno.compartido, u"P"_s, casos.Texto(u"NombreTasador", fila),
-                      static_cast<qint32>(casos.Entero(u"NumeroTasacion", fila)));
+protected:
+    Muestras() { CrearBaseDeMuestras(ruta()); }
+
+    QString ruta() const { return carpeta_.filePath(u"muestras.mdb"_s); }
+    ConjuntoResultados Leer(const QString& sql) const
+    {
+        AccesoDatos::clsConsulta consulta;
+        consulta.AbrirBaseDatosEmpresa(ruta());
+        return consulta.Instantanea2(u"Empresa"_s, sql);
+    }
+    /// Calls `accion` with each sample case loaded into its window, and with its town.
+    template <class Accion>
+    void ConCada(Accion accion) const
+    {
+        const ConjuntoResultados casos =
+            Leer(u"SELECT Tipo, NombreTasador, NumeroTasacion, Municipio FROM Viviendas"_s);
+        ASSERT_EQ(casos.RecordCount(), 14);
+        for (qint32 fila = 1; fila <= casos.RecordCount(); ++fila) {
+            const QString letra = casos.Texto(u"Tipo", fila);
+            FormularioDePrueba f(*DescripcionDe(letra.front()), ruta());
+            CargaVivienda(f.formulario, f.entorno.compartido, letra, casos.Texto(u"NombreTasador", fila),
+                          static_cast<qint32>(casos.Entero(u"NumeroTasacion", fila)));
+            accion(f, casos.Texto(u"Municipio", fila));
+        }
+    }
+    /// Every row of every table that a save writes, in the order of its text.
+    QStringList Contenido() const
+    {
+        QStringList filas;
+        for (const QString& tabla : {u"Viviendas"_s, u"Testigos"_s, u"TestigosInforme"_s,
+                                     u"ImagenesAsociadas"_s, u"ProblemasUrbanisticos"_s, u"Tasadores"_s}) {
+            const ConjuntoResultados datos = Leer(u"SELECT * FROM "_s + tabla);
+            for (qint32 fila = 1; fila <= datos.RecordCount(); ++fila)
+                filas << tabla + u' ' + datos.ValorRegistroGrid(fila);
+        }
+        filas.sort();
+        return filas;
+    }
+
+private:
+    QTemporaryDir carpeta_;
+};
+
+} // namespace
+
+TEST_F(Muestras, DraftFromTheirRows)
+{
+    ConCada([](FormularioDePrueba& f, const QString& municipio) {
         const QString texto = Redactar(f.caso);
         EXPECT_TRUE(texto.startsWith(u"INFORME DE TASACION\r\n\r\n"_s));
-        EXPECT_TRUE(texto.contains(u"1.2. Municipio:\r\n              "_s + casos.Texto(u"Municipio", fila)));
+        EXPECT_TRUE(texto.contains(u"1.2. Municipio:\r\n              "_s + municipio));
         EXPECT_TRUE(texto.contains(u"     Asciende el importe de la presente tasación"_s));
-        if (qEnvironmentVariableIsSet("VALMERIX_PRINT"))
-            printf("%s\n", texto.toUtf8().constData());
-    }
+    });
+}
+
+TEST_F(Muestras, AreSavedAsTheyWereStored)
+{
+    const QStringList antes = Contenido();
+    EXPECT_GT(antes.size(), 14 * 3);
+    ConCada([](FormularioDePrueba& f, const QString& /*municipio*/) {
+        f.entorno.dialogos.respuestas = {true};
+        EXPECT_TRUE(SalvaVivienda(f.formulario, f.entorno.compartido, f.entorno.dialogos));
+    });
+    EXPECT_EQ(Contenido(), antes);
 }
 
 } // namespace valmerix
