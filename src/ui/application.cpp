@@ -4,6 +4,7 @@
 
 #include <QLibraryInfo>
 #include <QTranslator>
+#include <QWidget>
 
 // The pictures lie in a static library: without this call the linker would leave them out. The macro declares
 // its function in the namespace around it, which must be the global one.
