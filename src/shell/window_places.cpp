@@ -17,7 +17,8 @@ namespace {
 constexpr QStringView kSinMemoria[] = {
     u"Form2", u"SALIDA", u"Reinicio", u"Minimizado", u"VisorMin", u"Calculos",
 };
-constexpr int kMenor = 80; // pixels; what is smaller was never a window of ours
+constexpr int kMenor = 80;          // pixels; what is smaller was never a window of ours
+constexpr int kSitioMaximizada = 4; // behind the four figures of a place
 constexpr qint64 kFicheroMayor = 1024 * 1024;
 
 int Visible(const QRect& lugar, const QRect& pantalla)
@@ -26,9 +27,8 @@ int Visible(const QRect& lugar, const QRect& pantalla)
     return comun.width() * comun.height();
 }
 
-QRect DeJson(const QJsonValue& valor)
+QRect LugarDeJson(const QJsonArray& cifras)
 {
-    const QJsonArray cifras = valor.toArray();
     return {cifras.at(0).toInt(), cifras.at(1).toInt(), cifras.at(2).toInt(), cifras.at(3).toInt()};
 }
 
@@ -48,9 +48,10 @@ void LugaresVentanas::Leer(const QString& fichero)
         return;
     const QJsonObject objeto = QJsonDocument::fromJson(entrada.readAll()).object();
     for (auto par = objeto.begin(); par != objeto.end(); ++par) {
-        const QRect lugar = DeJson(par.value());
+        const QJsonArray cifras = par.value().toArray();
+        const QRect lugar = LugarDeJson(cifras);
         if (SeRecuerda(par.key()) && lugar.width() >= kMenor && lugar.height() >= kMenor)
-            lugares_.insert(par.key(), lugar);
+            lugares_.insert(par.key(), {lugar, cifras.at(kSitioMaximizada).toBool()});
     }
 }
 
@@ -60,8 +61,11 @@ void LugaresVentanas::Guardar(const QString& fichero)
         return;
     QJsonObject objeto;
     for (auto par = lugares_.cbegin(); par != lugares_.cend(); ++par) {
-        const QRect& r = par.value();
-        objeto.insert(par.key(), QJsonArray{r.x(), r.y(), r.width(), r.height()});
+        const QRect& r = par->lugar;
+        QJsonArray cifras{r.x(), r.y(), r.width(), r.height()};
+        if (par->maximizada)
+            cifras.append(true);
+        objeto.insert(par.key(), cifras);
     }
     QSaveFile salida(fichero);
     if (!salida.open(QIODevice::WriteOnly))
@@ -70,13 +74,14 @@ void LugaresVentanas::Guardar(const QString& fichero)
     salida.commit();
 }
 
-void LugaresVentanas::Apuntar(const QString& ventana, const QRect& lugar)
+void LugaresVentanas::Apuntar(const QString& ventana, const QRect& lugar, bool maximizada)
 {
     if (!SeRecuerda(ventana) || lugar.width() < kMenor || lugar.height() < kMenor)
         return;
-    QRect& suyo = lugares_[ventana];
-    cambiado_ = cambiado_ || suyo != lugar;
-    suyo = lugar;
+    const Recuerdo nuevo{lugar, maximizada};
+    Recuerdo& suyo = lugares_[ventana];
+    cambiado_ = cambiado_ || suyo != nuevo;
+    suyo = nuevo;
 }
 
 std::optional<QRect> LugaresVentanas::LugarDe(const QString& ventana, const QList<QRect>& pantallas) const
@@ -84,20 +89,48 @@ std::optional<QRect> LugaresVentanas::LugarDe(const QString& ventana, const QLis
     const auto hallado = lugares_.constFind(ventana);
     if (hallado == lugares_.constEnd())
         return std::nullopt;
-    return AjustarAPantallas(*hallado, pantallas);
+    return AjustarAPantallas(hallado->lugar, pantallas);
+}
+
+bool LugaresVentanas::EstabaMaximizada(const QString& ventana) const
+{
+    return lugares_.value(ventana).maximizada;
+}
+
+QRect PantallaDe(const QRect& lugar, const QList<QRect>& pantallas)
+{
+    const auto hallada =
+        std::max_element(pantallas.begin(), pantallas.end(), [&](const QRect& a, const QRect& b) {
+            return Visible(lugar, a) < Visible(lugar, b);
+        });
+    return hallada == pantallas.end() ? QRect() : *hallada;
 }
 
 QRect AjustarAPantallas(QRect lugar, const QList<QRect>& pantallas)
 {
     if (pantallas.isEmpty())
         return lugar;
-    const QRect pantalla =
-        *std::max_element(pantallas.begin(), pantallas.end(), [&](const QRect& a, const QRect& b) {
-            return Visible(lugar, a) < Visible(lugar, b);
-        });
+    const QRect pantalla = PantallaDe(lugar, pantallas);
     lugar.setSize(lugar.size().boundedTo(pantalla.size()));
     lugar.moveLeft(std::clamp(lugar.x(), pantalla.x(), pantalla.x() + pantalla.width() - lugar.width()));
     lugar.moveTop(std::clamp(lugar.y(), pantalla.y(), pantalla.y() + pantalla.height() - lugar.height()));
+    return lugar;
+}
+
+QRect AgrandarEnPantallas(QRect lugar, QSize menor, const QList<QRect>& pantallas)
+{
+    const QRect pantalla = PantallaDe(lugar, pantallas);
+    const QSize pedido = lugar.size();
+    const QPoint centro = lugar.center();
+    lugar.setSize(pedido.expandedTo(menor));
+    const bool crece = lugar.size() != pedido;
+    if (!pantalla.isNull())
+        lugar.setSize(lugar.size().boundedTo(pantalla.size()));
+    if (crece) {
+        lugar.moveCenter(centro);
+        lugar.moveLeft(std::max(lugar.x(), pantalla.x()));
+        lugar.moveTop(std::max(lugar.y(), pantalla.y()));
+    }
     return lugar;
 }
 

@@ -71,18 +71,19 @@ void PantallaQt::RecordarLugares(const QString& fichero)
 
 void PantallaQt::Acomodar(Ventana& ventana) const
 {
-    QList<QRect> pantallas{area()}; // the first one takes what stood on a screen that is gone
-    for (const QScreen* pantalla : QGuiApplication::screens())
-        pantallas << pantalla->availableGeometry();
-    if (const auto lugar = lugares_.LugarDe(ventana.nombre(), pantallas))
+    const QString& nombre = ventana.nombre();
+    if (const auto lugar = lugares_.LugarDe(nombre, PantallasUtiles()))
         ventana.Mover(*lugar);
+    if (lugares_.EstabaMaximizada(nombre))
+        ventana.setWindowState(EstadoVentana::Maximizada);
 }
 
 void PantallaQt::Apuntar(const Ventana& ventana)
 {
     const VistaVentana* suya = vista(ventana);
-    if (suya && !ficheroLugares_.isEmpty() && !(suya->windowState() & ~Qt::WindowActive))
-        lugares_.Apuntar(ventana.nombre(), ventana.lugar());
+    const Qt::WindowStates sinLugar = Qt::WindowMinimized | Qt::WindowFullScreen;
+    if (suya && !ficheroLugares_.isEmpty() && !(suya->windowState() & sinLugar))
+        lugares_.Apuntar(ventana.nombre(), suya->lugarNormal(), suya->isMaximized());
 }
 
 void PantallaQt::ApuntarTodas()

@@ -9,10 +9,8 @@
 #include "ui/window_drag.h"
 
 #include <QBoxLayout>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QPainter>
-#include <QScreen>
 #include <QToolButton>
 
 namespace valmerix {
@@ -100,10 +98,7 @@ VistaPaleta::VistaPaleta(Ventana& ventana)
 
 QRect VistaPaleta::LugarPosible(QRect pedido) const
 {
-    QList<QRect> pantallas;
-    for (const QScreen* pantalla : QGuiApplication::screens())
-        pantallas << pantalla->availableGeometry();
-    return AjustarAPantallas(VistaVentana::LugarPosible(pedido), pantallas);
+    return AjustarAPantallas(VistaVentana::LugarPosible(pedido), PantallasUtiles());
 }
 
 QWidget* VistaPaleta::Titulo()

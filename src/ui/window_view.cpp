@@ -1,8 +1,10 @@
 #include "ui/window_view.h"
 
+#include "shell/window_places.h"
 #include "ui/application.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
@@ -30,6 +32,14 @@ Qt::WindowFlags Banderas(Marco marco)
 }
 
 } // namespace
+
+QList<QRect> PantallasUtiles()
+{
+    QList<QRect> areas;
+    for (const QScreen* pantalla : QGuiApplication::screens())
+        areas << pantalla->availableGeometry();
+    return areas;
+}
 
 VistaVentana::VistaVentana(Ventana& ventana, Marco marco)
     : QWidget(nullptr, Banderas(marco))
@@ -111,16 +121,17 @@ void VistaVentana::PonerDelanteDe(QWidget& otra)
 
 QRect VistaVentana::LugarPosible(QRect pedido) const
 {
-    const QSize propio = pedido.isEmpty() ? sizeHint() : pedido.size().expandedTo(minimumSizeHint());
-    const QPoint centro = pedido.center();
-    const bool crece = !pedido.isEmpty() && propio != pedido.size();
-    pedido.setSize(propio.boundedTo(screen()->availableSize()));
-    if (crece) { // a window that was placed for a smaller size keeps its centre, as far as the screen lets it
-        pedido.moveCenter(centro);
-        const QPoint borde = screen()->availableGeometry().topLeft();
-        pedido.moveTopLeft({std::max(pedido.x(), borde.x()), std::max(pedido.y(), borde.y())});
-    }
+    if (!pedido.isEmpty()) // not screen(): before it is shown that is the first one, wherever it is to stand
+        return AgrandarEnPantallas(pedido, minimumSizeHint(), PantallasUtiles());
+    pedido.setSize(sizeHint().boundedTo(screen()->availableSize()));
     return pedido;
+}
+
+QRect VistaVentana::lugarNormal() const
+{
+    if (!isMaximized())
+        return ventana_ ? ventana_->lugar() : QRect(pos(), size());
+    return normalGeometry().translated(-marco_); // the maximised one may have another frame, or none
 }
 
 void VistaVentana::MostrarLugar()
@@ -157,6 +168,8 @@ void VistaVentana::TomarLugar()
 {
     if (!ventana_ || sincronizando_ || !isVisible() || isMinimized())
         return;
+    if (!isMaximized())
+        marco_ = geometry().topLeft() - pos();
     const QScopedValueRollback guarda(sincronizando_, true);
     Protegido([this] { ventana_->Mover(QRect(pos(), size())); });
 }

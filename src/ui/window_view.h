@@ -2,6 +2,7 @@
 
 #include "ui/binder.h"
 
+#include <QList>
 #include <QWidget>
 
 namespace valmerix {
@@ -15,6 +16,9 @@ enum class Marco {
     Propio,      ///< none: the view has a caption bar of ours
     Herramienta, ///< none either, small, beside another window, never taking the focus
 };
+
+/// The usable areas of her screens, the first screen's first.
+QList<QRect> PantallasUtiles();
 
 /// The view of a window: lays out its widgets, and carries place, state, activation, closing and loose keys
 /// between the window system and the model. A view that outlives its model is an empty shell.
@@ -35,6 +39,8 @@ public:
     void Mostrar();
     /// From now on Escape closes the window, as its close button does.
     void CerrarConEscape() { cierraConEscape_ = true; }
+    /// Where it stands, or goes back to from its maximised size.
+    QRect lugarNormal() const;
     /// Keeps this window above another one, which it stops while it is modal.
     void PonerDelanteDe(QWidget& otra);
 
@@ -46,7 +52,7 @@ protected:
     void resizeEvent(QResizeEvent* evento) override;
     void changeEvent(QEvent* evento) override;
 
-    /// What `lugar()` of the model asks for, made possible on this screen.
+    /// What `lugar()` of the model asks for, made possible on its screen.
     virtual QRect LugarPosible(QRect pedido) const;
 
 private:
@@ -59,6 +65,7 @@ private:
 
     QPointer<Ventana> ventana_;
     Enlazador* enlazador_;
+    QPoint marco_; ///< from the outer corner to the inner one, as long as it is not maximised
     bool sincronizando_ = false;
     bool cierraConEscape_ = false;
 };

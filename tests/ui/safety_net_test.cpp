@@ -5,6 +5,7 @@
 
 #include "shell/application.h"
 #include "shell/start_window.h"
+#include "shell/window_places.h"
 #include "store/query.h"
 #include "ui/caption_bar.h"
 #include "ui/desktop.h"
@@ -161,6 +162,35 @@ TEST_F(RedEnPantalla, WindowsStandWhereSheLeftThemOnTheNextStart)
     aplicacion->NuevoCaso(0);
     EXPECT_EQ(forma().lugar(), dejado);
     EXPECT_EQ(aplicacion->paleta()->lugar().topLeft(), QPoint(dejado.x() + dejado.width(), dejado.y()));
+}
+
+TEST_F(RedEnPantalla, AWindowThatSheLeftMaximisedComesBackSoAndShrinksToItsOwnPlace)
+{
+    Vista(*aplicacion->inicio()).setGeometry(40, 30, 1000, 700);
+    QApplication::processEvents();
+    const QRect propio = aplicacion->inicio()->lugar();
+    Vista(*aplicacion->inicio()).showMaximized();
+    QApplication::processEvents();
+    ASSERT_EQ(aplicacion->inicio()->WindowState(), EstadoVentana::Maximizada);
+    for (int arranque = 0; arranque < 2; ++arranque) {
+        QTimer::singleShot(0, qApp, [] { QApplication::activeModalWidget()->close(); });
+        aplicacion->MostrarSalida(); // from there the process would end
+        Arrancar();
+        QApplication::processEvents();
+        SCOPED_TRACE(arranque);
+        EXPECT_TRUE(Vista(*aplicacion->inicio()).isMaximized());
+        EXPECT_EQ(aplicacion->inicio()->WindowState(), EstadoVentana::Maximizada);
+        EXPECT_EQ(Vista(*aplicacion->inicio()).frameGeometry(), pantalla->area());
+    }
+    Vista(*aplicacion->inicio()).showNormal();
+    QApplication::processEvents();
+    EXPECT_EQ(aplicacion->inicio()->lugar().size(), propio.size());
+    const QPoint corrido = aplicacion->inicio()->lugar().topLeft() - propio.topLeft();
+    EXPECT_LE(corrido.manhattanLength(), 8) << "no more than a frame";
+    LugaresVentanas lugares;
+    lugares.Leer(carpeta.filePath(u"Datos/ventanas.json"_s));
+    EXPECT_EQ(lugares.LugarDe(u"Form1"_s, {pantalla->area()}), propio)
+        << "nor does it wander from run to run";
 }
 
 TEST_F(RedEnPantalla, APlaceOutsideTheScreenIsBroughtIn)
