@@ -6,7 +6,7 @@
 #include "ui/widget_factory.h"
 
 #include <QAbstractButton>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -27,6 +27,14 @@ QString SinDosPuntos(QString titulo)
     return titulo.simplified();
 }
 
+// The area's own procedure would do with the caret of a field.
+void MostrarEntero(QScrollArea& zona, const QWidget& widget)
+{
+    const QRect sitio(widget.mapTo(zona.widget(), QPoint()), widget.size());
+    zona.ensureVisible(sitio.right(), sitio.bottom(), medida::kBorde, medida::kBorde);
+    zona.ensureVisible(sitio.left(), sitio.top(), medida::kBorde, medida::kBorde);
+}
+
 // Brings the page and the place where a widget lies before her eyes.
 void SacarALaVista(QWidget& widget)
 {
@@ -39,7 +47,7 @@ void SacarALaVista(QWidget& widget)
     }
     for (QWidget* w = widget.parentWidget(); w; w = w->parentWidget()) {
         if (auto* zona = qobject_cast<QScrollArea*>(w))
-            zona->ensureWidgetVisible(&widget, medida::kBorde, medida::kBorde);
+            MostrarEntero(*zona, widget);
     }
 }
 
@@ -199,6 +207,10 @@ bool Enlazador::eventFilter(QObject* objeto, QEvent* evento)
     if (evento->type() == QEvent::FocusIn && ventana_ && ventana_->abierta()) {
         if (Control* control = porFoco_.value(objeto))
             Protegido([&] { ventana_->Enfocar(control); });
+        // One that the arrows reach inside its group, or that only shows a result, is no news to the window.
+        auto* widget = qobject_cast<QWidget*>(objeto);
+        if (widget && static_cast<const QFocusEvent*>(evento)->reason() != Qt::MouseFocusReason)
+            SacarALaVista(*widget);
     }
     return QObject::eventFilter(objeto, evento);
 }

@@ -42,6 +42,43 @@ protected:
     std::unique_ptr<VistaCaso> vista;
 };
 
+/// The field in hand lies wholly in what the page shows.
+void ComprobarALaVista(const QScrollArea& zona)
+{
+    const QWidget& campo = *QApplication::focusWidget();
+    const QRect sitio(campo.mapTo(zona.viewport(), QPoint()), campo.size());
+    EXPECT_TRUE(zona.viewport()->rect().contains(sitio)) << qPrintable(campo.objectName());
+}
+
+/// What takes the focus on a page, in the order of the tabulator.
+std::vector<QWidget*> CamposDe(const QScrollArea& zona)
+{
+    std::vector<QWidget*> campos;
+    for (QWidget* w = zona.widget()->nextInFocusChain(); w != zona.widget(); w = w->nextInFocusChain()) {
+        if (zona.isAncestorOf(w) && w->isVisible() && w->isEnabled() && w->focusPolicy() & Qt::TabFocus)
+            campos.push_back(w);
+    }
+    return campos;
+}
+
+/// Goes on by that key, through the options of each group too, until it leaves the page or has been round it.
+int RecorrerPagina(const QScrollArea& zona, Qt::Key tecla)
+{
+    QSet<QWidget*> vistos;
+    for (QWidget* w = QApplication::focusWidget(); zona.isAncestorOf(w) && !vistos.contains(w);
+         w = QApplication::focusWidget()) {
+        vistos.insert(w);
+        ComprobarALaVista(zona);
+        auto* grupo = qobject_cast<GrupoBotones*>(w->parentWidget());
+        for (int i = 1; grupo && qobject_cast<QRadioButton*>(w) && i < grupo->cuenta(); ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+            ComprobarALaVista(zona);
+        }
+        QTest::keyClick(QApplication::focusWidget(), tecla);
+    }
+    return static_cast<int>(vistos.size());
+}
+
 TEST_P(CaseView, ShowsEveryControlOfTheTables)
 {
     for (const auto& control : formulario.controles()) {
@@ -99,6 +136,26 @@ TEST_P(CaseView, TheTabulatorGoesThroughAPageAsTheTableReads)
             tabla += control->nombre();
     }
     EXPECT_EQ(orden, tabla);
+}
+
+TEST_P(CaseView, TheFieldInHandIsAlwaysInSightHoweverSmallTheWindow)
+{
+    vista->resize(640, 360);
+    int desplazables = 0;
+    for (int i = 0; i < paginas().count(); ++i) {
+        SCOPED_TRACE(i);
+        paginas().setCurrentIndex(i);
+        QApplication::processEvents();
+        const auto& zona = dynamic_cast<QScrollArea&>(*paginas().widget(i));
+        desplazables += zona.verticalScrollBar()->maximum() > 0 ? 1 : 0;
+        const std::vector<QWidget*> campos = CamposDe(zona);
+        ASSERT_FALSE(campos.empty());
+        campos.front()->setFocus(Qt::TabFocusReason);
+        EXPECT_GT(RecorrerPagina(zona, Qt::Key_Tab), 2);
+        campos.back()->setFocus(Qt::BacktabFocusReason);
+        EXPECT_GT(RecorrerPagina(zona, Qt::Key_Backtab), 2);
+    }
+    EXPECT_GT(desplazables, 4);
 }
 
 TEST_P(CaseView, TheFocusOfAProcedureTurnsToItsPage)
