@@ -1,15 +1,43 @@
 #include "ui/calendar_dialog.h"
 
+#include "ui/icons.h"
 #include "ui/theme.h"
 
 #include <QBoxLayout>
 #include <QCalendarWidget>
 #include <QPushButton>
 #include <QTextCharFormat>
+#include <QToolButton>
 
 namespace valmerix {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+struct FlechaDeMes
+{
+    QStringView boton; // as the calendar itself calls it
+    QStringView icono;
+};
+
+constexpr FlechaDeMes kFlechas[] = {
+    {u"qt_calendar_prevmonth", u"anterior"},
+    {u"qt_calendar_nextmonth", u"siguiente"},
+};
+
+// The toolkit's own arrows are green, whatever the palette.
+void PonerFlechas(const QCalendarWidget& calendario)
+{
+    for (const FlechaDeMes& flecha : kFlechas) {
+        if (auto* boton = calendario.findChild<QToolButton*>(flecha.boton.toString())) {
+            boton->setIcon(Icono(flecha.icono.toString(),
+                                 calendario.palette().color(QPalette::Active, QPalette::HighlightedText)));
+        }
+    }
+}
+
+} // namespace
 
 DialogoCalendario::DialogoCalendario(QDate fecha, QWidget* padre)
     : QDialog(padre)
@@ -21,6 +49,7 @@ DialogoCalendario::DialogoCalendario(QDate fecha, QWidget* padre)
     calendario_->setFirstDayOfWeek(Qt::Monday);
     calendario_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     calendario_->setSelectedDate(fecha);
+    PonerFlechas(*calendario_);
     QTextCharFormat festivo;
     festivo.setForeground(palette().color(QPalette::BrightText));
     calendario_->setWeekdayTextFormat(Qt::Sunday, festivo);

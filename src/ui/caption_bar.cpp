@@ -42,7 +42,7 @@ protected:
         QPainter pintor(this);
         pintor.setRenderHint(QPainter::Antialiasing);
         pintor.setPen(Qt::NoPen);
-        pintor.setBrush(palette().highlight());
+        pintor.setBrush(palette().link());
         pintor.drawEllipse(rect());
     }
 };

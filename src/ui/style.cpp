@@ -3,6 +3,9 @@
 #include "ui/icons.h"
 #include "ui/style_painting.h"
 
+#include <QStyleOptionSlider>
+#include <algorithm>
+
 namespace valmerix {
 
 using namespace Qt::StringLiterals;
@@ -11,6 +14,10 @@ namespace {
 
 constexpr int kCasilla = 16;
 constexpr int kMargenBoton = 12;
+constexpr int kAireBoton = 12; // at least, at either side of a button's text
+constexpr int kMargenCelda = 4;
+constexpr int kMargenCabecera = kMargenCelda + 1; // headings stand over the texts of their cells
+constexpr int kAsideroMenor = 28;
 constexpr int kMargenCampo = 3; // more than Fusion leaves beside a field's text
 constexpr int kAltoSolapa = 34;
 constexpr int kAnchoSolapa = 10; // more than Fusion leaves beside a tab's text
@@ -20,6 +27,39 @@ bool EsPlano(const QStyleOption& o)
     const auto* boton = qstyleoption_cast<const QStyleOptionButton*>(&o);
     return boton && boton->features.testFlag(QStyleOptionButton::Flat) &&
            !o.state.testAnyFlags(QStyle::State_MouseOver | QStyle::State_Sunken | QStyle::State_On);
+}
+
+int Largo(const QStyleOptionSlider& barra)
+{
+    return barra.orientation == Qt::Horizontal ? barra.rect.width() : barra.rect.height();
+}
+
+struct Tramo
+{
+    int desde = 0;
+    int largo = 0;
+};
+
+Tramo Asidero(const QStyleOptionSlider& barra)
+{
+    const int todo = Largo(barra);
+    const qint64 recorrido = qint64(barra.maximum) - barra.minimum;
+    if (recorrido <= 0)
+        return {0, todo};
+    const auto justo = static_cast<int>(qint64(todo) * barra.pageStep / (recorrido + barra.pageStep));
+    const int largo = std::min(std::max(justo, kAsideroMenor), todo);
+    return {QStyle::sliderPositionFromValue(barra.minimum, barra.maximum, barra.sliderPosition, todo - largo,
+                                            barra.upsideDown),
+            largo};
+}
+
+QRect EnBarra(const QStyleOptionSlider& barra, const Tramo& tramo)
+{
+    const QRect& r = barra.rect;
+    const int largo = std::min(tramo.largo, Largo(barra) - tramo.desde);
+    if (barra.orientation == Qt::Vertical)
+        return {r.x(), r.y() + tramo.desde, r.width(), largo};
+    return QStyle::visualRect(barra.direction, r, {r.x() + tramo.desde, r.y(), largo, r.height()});
 }
 
 struct IconoDeCaja
@@ -103,7 +143,39 @@ void EstiloValmerix::drawComplexControl(ComplexControl control, const QStyleOpti
         const QRect flecha = subControlRect(CC_ComboBox, opcion, SC_ComboBoxArrow, widget);
         return pintura::Desplegable(*lista, *pintor, flecha);
     }
+    const auto* orden = qstyleoption_cast<const QStyleOptionToolButton*>(opcion);
+    if (control == CC_ToolButton && orden && orden->features.testFlag(QStyleOptionToolButton::HasMenu)) {
+        QStyleOptionToolButton sinFlecha(*orden); // it would stand upon the last letter
+        sinFlecha.features.setFlag(QStyleOptionToolButton::HasMenu, false);
+        return QProxyStyle::drawComplexControl(control, &sinFlecha, pintor, widget);
+    }
+    if (control == CC_ScrollBar) {
+        const QRect asidero = subControlRect(CC_ScrollBar, opcion, SC_ScrollBarSlider, widget);
+        return pintura::BarraDesplazamiento(*opcion, *pintor, asidero);
+    }
     QProxyStyle::drawComplexControl(control, opcion, pintor, widget);
+}
+
+// No arrows at the ends: all of its length is for the handle.
+QRect EstiloValmerix::subControlRect(ComplexControl control, const QStyleOptionComplex* opcion,
+                                     SubControl parte, const QWidget* widget) const
+{
+    const auto* barra = qstyleoption_cast<const QStyleOptionSlider*>(opcion);
+    if (control != CC_ScrollBar || !barra)
+        return QProxyStyle::subControlRect(control, opcion, parte, widget);
+    const Tramo asidero = Asidero(*barra);
+    switch (parte) {
+    case SC_ScrollBarSlider:
+        return EnBarra(*barra, asidero);
+    case SC_ScrollBarSubPage:
+        return EnBarra(*barra, {0, asidero.desde});
+    case SC_ScrollBarAddPage:
+        return EnBarra(*barra, {asidero.desde + asidero.largo, Largo(*barra)});
+    case SC_ScrollBarGroove:
+        return barra->rect;
+    default:
+        return {};
+    }
 }
 
 QRect EstiloValmerix::subElementRect(SubElement elemento, const QStyleOption* opcion,
@@ -121,6 +193,8 @@ QSize EstiloValmerix::sizeFromContents(ContentsType tipo, const QStyleOption* op
     QSize propio = QProxyStyle::sizeFromContents(tipo, opcion, contenido, widget);
     if (tipo == CT_TabBarTab)
         propio = QSize(propio.width() + kAnchoSolapa, std::max(propio.height(), kAltoSolapa));
+    if (tipo == CT_PushButton && !contenido.isEmpty())
+        propio.setWidth(std::max(propio.width(), contenido.width() + 2 * kAireBoton));
     return propio;
 }
 
@@ -134,6 +208,10 @@ int EstiloValmerix::pixelMetric(PixelMetric medida, const QStyleOption* opcion, 
         return kCasilla;
     case PM_ButtonMargin:
         return kMargenBoton;
+    case PM_FocusFrameHMargin:
+        return kMargenCelda;
+    case PM_HeaderMargin:
+        return kMargenCabecera;
     case PM_TabBarTabOverlap:
     case PM_TabBarTabShiftVertical:
         return 0;

@@ -5,7 +5,8 @@
 namespace valmerix {
 
 /// Fusion with our own face: flat fields with a thin line that takes the accent colour while they have the
-/// focus, flat buttons and tabs, ticks that stay readable in both palettes, our own pictures in the boxes.
+/// focus, flat buttons, tabs and scroll bars, ticks that stay readable in both palettes, our own pictures in
+/// the boxes.
 class EstiloValmerix : public QProxyStyle
 {
     Q_OBJECT
@@ -19,6 +20,8 @@ public:
                      const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* opcion, QPainter* pintor,
                             const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* opcion, SubControl parte,
+                         const QWidget* widget) const override;
     QRect subElementRect(SubElement elemento, const QStyleOption* opcion,
                          const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType tipo, const QStyleOption* opcion, const QSize& contenido,

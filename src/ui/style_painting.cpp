@@ -2,11 +2,14 @@
 
 #include "ui/theme.h"
 
+#include <algorithm>
+
 namespace valmerix::pintura {
 
 namespace {
 
 constexpr int kLineaSolapa = 3;
+constexpr qreal kEntornoAsidero = 4; // pixels around the handle of a scroll bar
 
 class Pincel
 {
@@ -103,6 +106,12 @@ void Boton(const QStyleOption& o, QPainter& p)
     p.setPen(QPen(principal && Con(o, QStyle::State_Enabled) ? FondoDeBoton(o, true) : LineaDeCampo(o), 1));
     p.setBrush(FondoDeBoton(o, principal));
     p.drawRoundedRect(AlPixel(o.rect), medida::kRadio, medida::kRadio);
+    if (!principal || !Con(o, QStyle::State_HasFocus))
+        return;
+    // On the accent colour a line of the same colour would not be seen.
+    p.setPen(QPen(Vivo(o, QPalette::HighlightedText), 1));
+    p.setBrush(Qt::NoBrush);
+    p.drawRoundedRect(AlPixel(o.rect).adjusted(2, 2, -2, -2), medida::kRadio - 2, medida::kRadio - 2);
 }
 
 void Casilla(const QStyleOption& o, QPainter& p)
@@ -173,6 +182,22 @@ void Solapa(const QStyleOptionTab& o, QPainter& p)
         return;
     const QRect linea(o.rect.left(), o.rect.bottom() - kLineaSolapa + 1, o.rect.width(), kLineaSolapa);
     p.fillRect(linea, Vivo(o, QPalette::Link));
+}
+
+void BarraDesplazamiento(const QStyleOptionComplex& o, QPainter& p, const QRect& asidero)
+{
+    p.fillRect(o.rect, Vivo(o, QPalette::Window));
+    if (!Con(o, QStyle::State_Enabled))
+        return;
+    const bool viva = Con(o, QStyle::State_Sunken) ||
+                      (Con(o, QStyle::State_MouseOver) && o.activeSubControls == QStyle::SC_ScrollBarSlider);
+    const Pincel pincel(p);
+    p.setPen(Qt::NoPen);
+    p.setBrush(Vivo(o, viva ? QPalette::Link : QPalette::PlaceholderText));
+    const QRectF r =
+        QRectF(asidero).adjusted(kEntornoAsidero, kEntornoAsidero, -kEntornoAsidero, -kEntornoAsidero);
+    const qreal radio = std::min(r.width(), r.height()) / 2;
+    p.drawRoundedRect(r, radio, radio);
 }
 
 void BaseSolapas(const QStyleOption& o, QPainter& p)

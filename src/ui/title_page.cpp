@@ -123,7 +123,7 @@ void BotonTipo::paintEvent(QPaintEvent* /*evento*/)
     QColor fondo = palette().color(QPalette::Active, QPalette::Window);
     if (vivo)
         fondo = palette().color(isDown() ? QPalette::Mid : QPalette::Midlight);
-    pintor.setPen(vivo && hasFocus() ? palette().color(QPalette::Highlight) : ColorLinea(palette()));
+    pintor.setPen(vivo && hasFocus() ? palette().color(QPalette::Link) : ColorLinea(palette()));
     pintor.setBrush(fondo);
     pintor.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), medida::kRadio, medida::kRadio);
     if (isEnabled() && uno_.isValid()) {
