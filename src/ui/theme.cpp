@@ -4,6 +4,8 @@
 
 #include <QFont>
 #include <QIcon>
+#include <algorithm>
+#include <cmath>
 
 namespace valmerix {
 
@@ -32,17 +34,18 @@ constexpr ColorDeRol kColores[] = {
     {QPalette::Mid, 0xFFC3CAD3, 0xFF4A525C},
     {QPalette::Dark, 0xFF8793A1, 0xFF0F1114},
     {QPalette::Shadow, 0xFF5B6775, 0xFF000000},
-    {QPalette::Highlight, 0xFF1F5FA8, 0xFF3D7CC2},
+    {QPalette::Highlight, 0xFF1F5FA8, 0xFF306CB0},
     {QPalette::HighlightedText, 0xFFFFFFFF, 0xFFFFFFFF},
     {QPalette::Link, 0xFF1F5FA8, 0xFF7FB2E5},
     {QPalette::LinkVisited, 0xFF5B4A9E, 0xFFB0A3E6},
     {QPalette::ToolTipBase, 0xFF26313D, 0xFF3B424B},
     {QPalette::ToolTipText, 0xFFFFFFFF, 0xFFF0F2F5},
-    {QPalette::PlaceholderText, 0xFF8793A1, 0xFF7C8794},
+    {QPalette::PlaceholderText, 0xFF636F7C, 0xFF8792A0},
 };
 
-constexpr QRgb kApagadoClaro = 0xFF97A1AD;
-constexpr QRgb kApagadoOscuro = 0xFF69727D;
+constexpr QRgb kApagadoClaro = 0xFF7B8693;
+constexpr QRgb kApagadoOscuro = 0xFF78818C;
+constexpr qreal kParteSecundaria = 0.32; // of the surface in a secondary text: it still reads with ease
 constexpr int kLuzMedia = 128;
 constexpr qreal kLetra = 10; // points
 
@@ -65,6 +68,15 @@ QColor Mezclar(const QColor& a, const QColor& b, qreal parteDeB)
     const auto mezcla = [&](int x, int y) { return qRound(x * (1 - parteDeB) + y * parteDeB); };
     return {mezcla(a.red(), b.red()), mezcla(a.green(), b.green()), mezcla(a.blue(), b.blue())};
 }
+
+// Relative luminance of sRGB, 0 to 1.
+qreal Luminancia(const QColor& color)
+{
+    const auto lineal = [](qreal v) { return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * lineal(color.redF()) + 0.7152 * lineal(color.greenF()) + 0.0722 * lineal(color.blueF());
+}
+
+constexpr qreal kDestello = 0.05; // light that every screen throws back
 
 } // namespace
 
@@ -107,7 +119,7 @@ QPalette PaletaDe(Aspecto aspecto, const QPalette& comun)
 QColor ColorSecundario(const QPalette& paleta)
 {
     return Mezclar(paleta.color(QPalette::Active, QPalette::WindowText),
-                   paleta.color(QPalette::Active, QPalette::Window), 0.38);
+                   paleta.color(QPalette::Active, QPalette::Window), kParteSecundaria);
 }
 
 QColor ColorLinea(const QPalette& paleta)
@@ -122,11 +134,17 @@ QColor ColorPanel(const QPalette& paleta)
                             : paleta.color(QPalette::Active, QPalette::Base);
 }
 
+qreal Contraste(const QColor& a, const QColor& b)
+{
+    const auto [oscura, clara] = std::minmax(Luminancia(a), Luminancia(b));
+    return (clara + kDestello) / (oscura + kDestello);
+}
+
 QColor TextoSobre(const QColor& fondo)
 {
-    // Weights of the eye's answer to the three colours.
-    const qreal luz = 0.299 * fondo.redF() + 0.587 * fondo.greenF() + 0.114 * fondo.blueF();
-    return luz > 0.58 ? QColor(Qt::black) : QColor(Qt::white);
+    const QColor claro(Qt::white);
+    const QColor oscuro(Qt::black);
+    return Contraste(claro, fondo) >= Contraste(oscuro, fondo) ? claro : oscuro;
 }
 
 } // namespace valmerix

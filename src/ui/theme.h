@@ -34,6 +34,8 @@ QColor ColorSecundario(const QPalette& paleta);
 QColor ColorLinea(const QPalette& paleta);
 /// Colour of a raised panel.
 QColor ColorPanel(const QPalette& paleta);
+/// How well one colour stands out from another: 1 (not at all) to 21 (black on white); texts want 4.5.
+qreal Contraste(const QColor& a, const QColor& b);
 /// Black or white, whichever reads better on `fondo`.
 QColor TextoSobre(const QColor& fondo);
 

@@ -22,6 +22,7 @@ namespace {
 constexpr int kAltoTitulo = 42;
 constexpr QSize kIcono(30, 22); // wider than high: air between picture and words
 constexpr int kAnchoOrden = 152;
+constexpr qreal kFinDelTitulo = 0.78; // of the width: the title stands on the first colour alone
 
 // By the index of Botonera.
 constexpr QStringView kIconos[] = {
@@ -60,7 +61,7 @@ protected:
         if (!uno_.isValid())
             return pintor.fillRect(rect(), ColorPanel(palette()));
         QLinearGradient mezcla(rect().topLeft(), rect().topRight());
-        mezcla.setColorAt(0, uno_);
+        mezcla.setColorAt(kFinDelTitulo, uno_);
         mezcla.setColorAt(1, otro_);
         pintor.fillRect(rect(), mezcla);
     }
