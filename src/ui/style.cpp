@@ -45,7 +45,7 @@ Tramo Asidero(const QStyleOptionSlider& barra)
     const int todo = Largo(barra);
     const qint64 recorrido = qint64(barra.maximum) - barra.minimum;
     if (recorrido <= 0)
-        return {0, todo};
+        return {0, 0}; // nothing to go through, nothing to hold
     const auto justo = static_cast<int>(qint64(todo) * barra.pageStep / (recorrido + barra.pageStep));
     const int largo = std::min(std::max(justo, kAsideroMenor), todo);
     return {QStyle::sliderPositionFromValue(barra.minimum, barra.maximum, barra.sliderPosition, todo - largo,

@@ -187,7 +187,7 @@ void Solapa(const QStyleOptionTab& o, QPainter& p)
 void BarraDesplazamiento(const QStyleOptionComplex& o, QPainter& p, const QRect& asidero)
 {
     p.fillRect(o.rect, Vivo(o, QPalette::Window));
-    if (!Con(o, QStyle::State_Enabled))
+    if (!Con(o, QStyle::State_Enabled) || asidero.isEmpty())
         return;
     const bool viva = Con(o, QStyle::State_Sunken) ||
                       (Con(o, QStyle::State_MouseOver) && o.activeSubControls == QStyle::SC_ScrollBarSlider);

@@ -18,7 +18,7 @@ void CabeceraTabla(const QStyleOption& o, QPainter& p);
 void Solapa(const QStyleOptionTab& o, QPainter& p);
 /// The thin line under the tabs.
 void BaseSolapas(const QStyleOption& o, QPainter& p);
-/// The whole bar, with its handle at that place.
+/// The whole bar, with its handle at that place, if there is one.
 void BarraDesplazamiento(const QStyleOptionComplex& o, QPainter& p, const QRect& asidero);
 
 } // namespace valmerix::pintura
