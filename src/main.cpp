@@ -1,12 +1,12 @@
 #include "shell/application.h"
-#include "ui/application.h"
-#include "ui/capture.h"
 #include "ui/desktop.h"
 #include "ui/dialogs.h"
 #include "ui/extension_loader.h"
-#include "ui/help_port.h"
+#include "ui/help/help_port.h"
+#include "ui/look/application.h"
 #include "ui/machine.h"
-#include "ui/printing_port.h"
+#include "ui/pictures/capture.h"
+#include "ui/printing/printing_port.h"
 
 #include <QString>
 

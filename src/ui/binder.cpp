@@ -1,9 +1,9 @@
 #include "ui/binder.h"
 
-#include "ui/application.h"
-#include "ui/option_widget.h"
-#include "ui/theme.h"
-#include "ui/widget_factory.h"
+#include "ui/look/application.h"
+#include "ui/look/theme.h"
+#include "ui/widgets/option_widget.h"
+#include "ui/widgets/widget_factory.h"
 
 #include <QAbstractButton>
 #include <QFocusEvent>

@@ -1,7 +1,7 @@
 #include "ui/caption_bar.h"
 
-#include "ui/icons.h"
-#include "ui/theme.h"
+#include "ui/look/icons.h"
+#include "ui/look/theme.h"
 #include "ui/window_drag.h"
 #include "ui/window_view.h"
 

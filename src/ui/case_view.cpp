@@ -2,12 +2,12 @@
 
 #include "ui/caption_bar.h"
 #include "ui/form_builder.h"
-#include "ui/grid_model.h"
-#include "ui/icons.h"
-#include "ui/kind_colours.h"
+#include "ui/look/icons.h"
+#include "ui/look/kind_colours.h"
+#include "ui/look/theme.h"
 #include "ui/page_columns.h"
-#include "ui/section_panel.h"
-#include "ui/theme.h"
+#include "ui/widgets/grid_model.h"
+#include "ui/widgets/section_panel.h"
 #include "valuation/case_form.h"
 
 #include <QBoxLayout>

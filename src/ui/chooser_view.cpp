@@ -1,7 +1,7 @@
 #include "ui/chooser_view.h"
 
-#include "ui/rows_widget.h"
-#include "ui/theme.h"
+#include "ui/look/theme.h"
+#include "ui/widgets/rows_widget.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>

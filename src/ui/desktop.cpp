@@ -1,6 +1,6 @@
 #include "ui/desktop.h"
 
-#include "ui/application.h"
+#include "ui/look/application.h"
 #include "ui/views.h"
 
 #include <QDialog>

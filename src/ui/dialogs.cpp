@@ -1,7 +1,7 @@
 #include "ui/dialogs.h"
 
-#include "ui/application.h"
-#include "ui/calendar_dialog.h"
+#include "ui/look/application.h"
+#include "ui/widgets/calendar_dialog.h"
 
 #include <QFileDialog>
 #include <QMessageBox>

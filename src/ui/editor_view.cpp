@@ -1,7 +1,7 @@
 #include "ui/editor_view.h"
 
-#include "ui/text_widgets.h"
-#include "ui/theme.h"
+#include "ui/look/theme.h"
+#include "ui/widgets/text_widgets.h"
 
 #include <QBoxLayout>
 #include <QLabel>

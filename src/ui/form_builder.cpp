@@ -2,10 +2,10 @@
 
 #include "ui/caption_bar.h"
 #include "ui/field_widths.h"
-#include "ui/icons.h"
-#include "ui/option_widget.h"
-#include "ui/section_panel.h"
-#include "ui/theme.h"
+#include "ui/look/icons.h"
+#include "ui/look/theme.h"
+#include "ui/widgets/option_widget.h"
+#include "ui/widgets/section_panel.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

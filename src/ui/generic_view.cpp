@@ -1,6 +1,6 @@
 #include "ui/generic_view.h"
 
-#include "ui/theme.h"
+#include "ui/look/theme.h"
 
 #include <QAbstractButton>
 #include <QFormLayout>

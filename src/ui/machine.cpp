@@ -1,6 +1,6 @@
 #include "ui/machine.h"
 
-#include "ui/picture_loader.h"
+#include "ui/pictures/picture_loader.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,7 +1,7 @@
 #include "ui/options_view.h"
 
-#include "ui/section_panel.h"
-#include "ui/theme.h"
+#include "ui/look/theme.h"
+#include "ui/widgets/section_panel.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>

@@ -1,6 +1,6 @@
 #include "ui/progress_view.h"
 
-#include "ui/theme.h"
+#include "ui/look/theme.h"
 
 #include <QBoxLayout>
 #include <QLabel>

@@ -1,8 +1,8 @@
 #include "ui/record_view.h"
 
 #include "ui/caption_bar.h"
-#include "ui/section_panel.h"
-#include "ui/theme.h"
+#include "ui/look/theme.h"
+#include "ui/widgets/section_panel.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>

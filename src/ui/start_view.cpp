@@ -1,10 +1,10 @@
 #include "ui/start_view.h"
 
-#include "ui/icons.h"
-#include "ui/kind_colours.h"
-#include "ui/section_panel.h"
-#include "ui/theme.h"
+#include "ui/look/icons.h"
+#include "ui/look/kind_colours.h"
+#include "ui/look/theme.h"
 #include "ui/title_page.h"
+#include "ui/widgets/section_panel.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>

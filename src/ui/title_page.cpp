@@ -1,7 +1,7 @@
 #include "ui/title_page.h"
 
-#include "ui/application.h"
-#include "ui/theme.h"
+#include "ui/look/application.h"
+#include "ui/look/theme.h"
 
 #include <QMouseEvent>
 #include <QPainter>

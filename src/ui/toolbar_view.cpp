@@ -3,9 +3,9 @@
 #include "shell/toolbar.h"
 #include "shell/window_places.h"
 #include "ui/caption_bar.h"
-#include "ui/icons.h"
-#include "ui/kind_colours.h"
-#include "ui/theme.h"
+#include "ui/look/icons.h"
+#include "ui/look/kind_colours.h"
+#include "ui/look/theme.h"
 #include "ui/window_drag.h"
 
 #include <QBoxLayout>

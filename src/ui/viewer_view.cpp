@@ -1,10 +1,10 @@
 #include "ui/viewer_view.h"
 
 #include "ui/caption_bar.h"
-#include "ui/icons.h"
-#include "ui/list_widget.h"
-#include "ui/rich_text_widget.h"
-#include "ui/theme.h"
+#include "ui/look/icons.h"
+#include "ui/look/theme.h"
+#include "ui/widgets/list_widget.h"
+#include "ui/widgets/rich_text_widget.h"
 
 #include <QBoxLayout>
 #include <QKeyEvent>

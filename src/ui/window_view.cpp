@@ -1,7 +1,7 @@
 #include "ui/window_view.h"
 
 #include "shell/window_places.h"
-#include "ui/application.h"
+#include "ui/look/application.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>

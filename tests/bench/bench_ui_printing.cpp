@@ -1,10 +1,10 @@
 #include "report/printing.h"
 #include "store/schema.h"
-#include "ui/page_fonts.h"
-#include "ui/page_metrics.h"
-#include "ui/pdf_file.h"
 #include "ui/printed_samples.h"
-#include "ui/report_pages.h"
+#include "ui/printing/page_fonts.h"
+#include "ui/printing/page_metrics.h"
+#include "ui/printing/pdf_file.h"
+#include "ui/printing/report_pages.h"
 
 #include <QGuiApplication>
 #include <QImageReader>

@@ -1,10 +1,10 @@
 #include "shell/application.h"
 #include "shell/headless_ports.h"
 #include "store/schema.h"
-#include "ui/application.h"
-#include "ui/capture.h"
 #include "ui/desktop.h"
-#include "ui/printing_port.h"
+#include "ui/look/application.h"
+#include "ui/pictures/capture.h"
+#include "ui/printing/printing_port.h"
 #include "valuation/case_form.h"
 
 #include <QBuffer>

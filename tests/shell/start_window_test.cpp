@@ -81,8 +81,8 @@ TEST_F(InicioTest, LeavesKeepEveryLetterOfTheirTexts)
     GuardarCaso(u"Viviendas"_s, u"Íñigo €"_s, u"P"_s, 1, u"Plaça d’Àngel 𝄞, 5.ª"_s, u"L’Alcúdia"_s);
     GuardarCaso(u"Viviendas"_s, u"Íñigo €"_s, u"P"_s, -2147483648, u"ß\uFEFF߿ࠀ￿"_s, u"Peñíscola"_s);
     inicio.Load();
-    EXPECT_EQ(Textos(0), (QStringList{u"Plaça d’Àngel 𝄞, 5.ª (L’Alcúdia)"_s,
-                                      u"ß\uFEFF߿ࠀ￿ (Peñíscola)"_s}));
+    EXPECT_EQ(Textos(0),
+              (QStringList{u"Plaça d’Àngel 𝄞, 5.ª (L’Alcúdia)"_s, u"ß\uFEFF߿ࠀ￿ (Peñíscola)"_s}));
     const auto& hijos = inicio.como<Arbol>(u"Arbol").carpetas()[0].hijos;
     EXPECT_EQ(hijos[0].clave, u"Íñigo €#1#P"_s);
     EXPECT_EQ(hijos[1].clave, u"Íñigo €#-2147483648#P"_s);

@@ -23,4 +23,8 @@ expect "a folder includes itself" 0 report/frame.cpp '#include "report/frame.h"'
 expect "the core includes Qt Core" 0 store/query.h '#include <QtCore/QString>'
 expect "the core includes the language's library" 0 store/query.h '#include <memory>'
 expect "the screen includes widgets and all below" 0 ui/binder.cpp '#include <QWidget>'
+expect "the screen's own folders are the screen" 0 ui/help/help_page.cpp '#include <QTextBrowser>'
+expect "the views include the folders under them" 0 ui/binder.cpp '#include "ui/widgets/list_widget.h"'
+expect "a folder of the screen includes the views" 1 ui/widgets/list_widget.cpp '#include "ui/binder.h"'
+expect "a folder of the screen includes one above it" 1 ui/look/theme.cpp '#include "ui/widgets/list_widget.h"'
 echo "the layer check finds what it should"

@@ -1,8 +1,8 @@
 #include "demo_window.h"
 
 #include "ui/generic_view.h"
-#include "ui/list_widget.h"
-#include "ui/option_widget.h"
+#include "ui/widgets/list_widget.h"
+#include "ui/widgets/option_widget.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>

@@ -1,5 +1,5 @@
-#include "ui/capture_folder.h"
 #include "ui/machine.h"
+#include "ui/pictures/capture_folder.h"
 
 #include <QFile>
 #include <QFileInfo>

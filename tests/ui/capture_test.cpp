@@ -1,9 +1,9 @@
 #include "photos.h"
 #include "picture_files.h"
 
-#include "ui/camera_source.h"
-#include "ui/capture.h"
-#include "ui/capture_window.h"
+#include "ui/pictures/camera_source.h"
+#include "ui/pictures/capture.h"
+#include "ui/pictures/capture_window.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -4,9 +4,9 @@
 
 #include "ui/case_view.h"
 #include "ui/dialogs.h"
-#include "ui/image_widget.h"
 #include "ui/machine.h"
-#include "ui/picture_loader.h"
+#include "ui/pictures/picture_loader.h"
+#include "ui/widgets/image_widget.h"
 
 #include <QClipboard>
 #include <QComboBox>

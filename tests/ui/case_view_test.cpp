@@ -2,8 +2,8 @@
 #include "support/fake_ports.h"
 
 #include "ui/case_view.h"
-#include "ui/option_widget.h"
 #include "ui/page_columns.h"
+#include "ui/widgets/option_widget.h"
 
 #include <QLineEdit>
 #include <QPushButton>

@@ -1,7 +1,7 @@
 #include "every_window.h"
 #include "text_samples.h"
 
-#include "ui/section_panel.h"
+#include "ui/widgets/section_panel.h"
 
 #include <QBoxLayout>
 #include <QLabel>

@@ -1,8 +1,8 @@
 #include "demo_window.h"
 
-#include "ui/application.h"
 #include "ui/desktop.h"
 #include "ui/dialogs.h"
+#include "ui/look/application.h"
 #include "ui/machine.h"
 
 #include <QAbstractButton>

@@ -3,12 +3,12 @@
 #include "printed_samples.h"
 #include "support/fake_ports.h"
 #include "support/manual_sample.h"
-#include "ui/capture_source.h"
-#include "ui/capture_window.h"
 #include "ui/dialogs.h"
-#include "ui/help_window.h"
-#include "ui/print_preview.h"
-#include "ui/report_pages.h"
+#include "ui/help/help_window.h"
+#include "ui/pictures/capture_source.h"
+#include "ui/pictures/capture_window.h"
+#include "ui/printing/print_preview.h"
+#include "ui/printing/report_pages.h"
 
 #include <QDialog>
 #include <QTabWidget>

@@ -2,7 +2,7 @@
 
 #include "windows_fixture.h"
 
-#include "ui/theme.h"
+#include "ui/look/theme.h"
 
 #include <functional>
 

@@ -5,13 +5,13 @@
 
 #include "shell/application.h"
 #include "shell/start_window.h"
-#include "ui/application.h"
 #include "ui/desktop.h"
-#include "ui/help_find_bar.h"
-#include "ui/help_page.h"
-#include "ui/help_port.h"
-#include "ui/help_window.h"
-#include "ui/theme.h"
+#include "ui/help/help_find_bar.h"
+#include "ui/help/help_page.h"
+#include "ui/help/help_port.h"
+#include "ui/help/help_window.h"
+#include "ui/look/application.h"
+#include "ui/look/theme.h"
 #include "valuation/case_form.h"
 
 #include <QLabel>

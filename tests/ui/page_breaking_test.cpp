@@ -1,4 +1,4 @@
-#include "ui/page_breaking.h"
+#include "ui/printing/page_breaking.h"
 
 #include <gtest/gtest.h>
 #include <random>

@@ -1,8 +1,8 @@
-#include "ui/pdf_file.h"
 #include "ui/pdf_tools.h"
 #include "ui/picture_files.h"
-#include "ui/picture_reading.h"
-#include "ui/report_pages.h"
+#include "ui/pictures/picture_reading.h"
+#include "ui/printing/pdf_file.h"
+#include "ui/printing/report_pages.h"
 
 #include <gtest/gtest.h>
 

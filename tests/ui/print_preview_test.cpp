@@ -1,12 +1,12 @@
-#include "ui/print_preview.h"
+#include "ui/printing/print_preview.h"
 
 #include "support/fake_ports.h"
-#include "ui/page_list.h"
-#include "ui/page_view.h"
 #include "ui/pdf_tools.h"
 #include "ui/printed_samples.h"
-#include "ui/printing_port.h"
-#include "ui/report_pages.h"
+#include "ui/printing/page_list.h"
+#include "ui/printing/page_view.h"
+#include "ui/printing/printing_port.h"
+#include "ui/printing/report_pages.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,9 +1,9 @@
-#include "ui/report_pages.h"
+#include "ui/printing/report_pages.h"
 
-#include "ui/page_metrics.h"
-#include "ui/pdf_file.h"
 #include "ui/pdf_tools.h"
 #include "ui/printed_samples.h"
+#include "ui/printing/page_metrics.h"
+#include "ui/printing/pdf_file.h"
 
 #include <QDir>
 #include <QFile>

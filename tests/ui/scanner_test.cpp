@@ -1,6 +1,6 @@
-#include "ui/capture_window.h"
-#include "ui/scan_frames.h"
-#include "ui/scanner_source.h"
+#include "ui/pictures/capture_window.h"
+#include "ui/pictures/scan_frames.h"
+#include "ui/pictures/scanner_source.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 #include "demo_window.h"
 
 #include "ui/generic_view.h"
-#include "ui/text_widgets.h"
+#include "ui/widgets/text_widgets.h"
 
 #include <QClipboard>
 #include <QLineEdit>

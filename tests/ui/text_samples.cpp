@@ -1,7 +1,7 @@
 #include "text_samples.h"
 
 #include "controls/control.h"
-#include "ui/theme.h"
+#include "ui/look/theme.h"
 #include "ui/title_page.h"
 
 #include <QAbstractItemView>

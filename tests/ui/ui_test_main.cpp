@@ -1,5 +1,5 @@
-#include "ui/application.h"
-#include "ui/theme.h"
+#include "ui/look/application.h"
+#include "ui/look/theme.h"
 
 #include <QFile>
 #include <QTemporaryDir>

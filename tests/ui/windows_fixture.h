@@ -7,7 +7,7 @@
 #include "support/fake_ports.h"
 #include "support/fake_screen.h"
 #include "ui/desktop.h"
-#include "ui/rich_text_widget.h"
+#include "ui/widgets/rich_text_widget.h"
 #include "valuation/case_form.h"
 
 #include <QAbstractButton>

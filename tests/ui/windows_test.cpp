@@ -1,7 +1,7 @@
 #include "photos.h"
 #include "windows_fixture.h"
 
-#include "ui/tree_model.h"
+#include "ui/widgets/tree_model.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -4,8 +4,8 @@
 #include "store/query.h"
 #include "support/fake_ports.h"
 #include "support/fake_screen.h"
-#include "ui/application.h"
 #include "ui/desktop.h"
+#include "ui/look/application.h"
 #include "valuation/case_form.h"
 
 #include <QAbstractButton>
