@@ -136,7 +136,7 @@ QColor ColorPanel(const QPalette& paleta)
 
 qreal Contraste(const QColor& a, const QColor& b)
 {
-    const auto [oscura, clara] = std::minmax(Luminancia(a), Luminancia(b));
+    const auto [oscura, clara] = std::minmax({Luminancia(a), Luminancia(b)}); // by value, not by reference
     return (clara + kDestello) / (oscura + kDestello);
 }
 
